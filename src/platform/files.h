@@ -1,0 +1,147 @@
+#pragma once
+
+#include "platform/path_rules.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tavo {
+
+// A moment in UTC: hundreds of nanoseconds since 1601-01-01. 0 is "none".
+struct FileTime {
+    std::int64_t Ticks = 0;
+    friend bool operator==(const FileTime&, const FileTime&) = default;
+};
+
+// A moment taken apart. Month and Day count from 1, DayOfWeek from Sunday = 0.
+struct SystemTime {
+    int Year = 0, Month = 0, DayOfWeek = 0, Day = 0;
+    int Hour = 0, Minute = 0, Second = 0, Milliseconds = 0;
+    friend bool operator==(const SystemTime&, const SystemTime&) = default;
+};
+
+enum FileAttribute : std::uint32_t {
+    attrReadOnly = 1,
+    attrHidden = 2,
+    attrSystem = 4,
+    attrDirectory = 16,
+    attrArchive = 32,
+    attrReparse = 1024, // a link; with attrDirectory: a link to a folder
+};
+
+// One entry of a folder. `Size` is in bytes. `Name` is the stored name without
+// the folder, byte for byte as the disk keeps it.
+struct FindData {
+    std::uint32_t Attributes = 0;
+    FileTime Created, Accessed, Written;
+    std::uint64_t Size = 0;
+    std::string Name;
+};
+
+// An open search. 0 is no search.
+using FindHandle = std::uint32_t;
+inline constexpr FindHandle invalidFind = 0;
+
+// Codes that the disk calls give; 0 is success. Anything the platform knows
+// beyond these is its own number above 2000.
+enum DiskCode : int {
+    diskOk = 0,
+    diskMissing = 2,
+    diskMissingFolder = 3,
+    diskDenied = 5,
+    diskNoMoreFiles = 18,
+    diskInUse = 32,
+    diskBadName = 123,
+    diskExists = 183,
+};
+
+enum FileOpFunc { foMove = 1, foCopy = 2, foDelete = 3, foRename = 4 };
+// FOF_SILENT + FOF_NOCONFIRMATION, and the same with FOF_ALLOWUNDO.
+inline constexpr int fofQuiet = 20;
+inline constexpr int fofQuietRecycle = 84;
+
+// One disk operation on one path. `To` is empty for foDelete.
+struct FileOperation {
+    FileOpFunc Func = foRename;
+    std::string From, To;
+    int Flags = fofQuiet;
+};
+
+enum class SpecialFolder { Home, Temp, Trash };
+
+// A place that the folder tree shows at its top.
+struct RootPlace {
+    std::string Caption; // what the tree shows, such as "Home"
+    std::string Path;    // the folder, with its separator at the end
+};
+
+// What two paths have in common when they are one folder on disk.
+struct FolderId {
+    std::uint64_t Device = 0, Node = 0;
+    friend bool operator==(const FolderId&, const FolderId&) = default;
+};
+
+// The port to the disk. Every call takes full paths. No call throws, and none
+// but FindFirstFileA ever takes `*` or `?` for a wildcard.
+class Files {
+public:
+    virtual ~Files() = default;
+
+    virtual const PathRules& Rules() const = 0;
+
+    // Starts a search. Behind the last separator of `pattern` stands a name,
+    // or a pattern with wildcards (see pattern.h). Gives the first entry in
+    // `found` and a handle, or invalidFind with the reason in LastError: 2 no
+    // such entry, 3 no such folder, 5 not readable. A name without wildcards is
+    // looked up as the disk does it; one with them is always a pattern here,
+    // also where an entry of that very name exists (Exists and Stat look that
+    // up). Entries come in the order of their names. An entry that vanishes between
+    // listing and reading is passed over.
+    virtual FindHandle FindFirstFileA(const std::string& pattern, FindData& found) = 0;
+    // The same search, for folders (and links to folders) alone. A disk that
+    // can tell them by less than reading every entry does so; by itself it is
+    // FindFirstFileA, and the caller looks at the attributes in any case.
+    virtual FindHandle FindFirstFolder(const std::string& pattern, FindData& found)
+    {
+        return FindFirstFileA(pattern, found);
+    }
+    // The next entry; false at the end (LastError 18) or for a bad handle.
+    virtual bool FindNextFileA(FindHandle handle, FindData& found) = 0;
+    virtual void FindClose(FindHandle handle) = 0;
+    // The code of the last call that failed; 0 after one that succeeded.
+    virtual int LastError() const = 0;
+
+    // Is there an entry of exactly this name (a link counts as itself)? On a
+    // disk whose names may not hold wildcards, they are honoured here.
+    virtual bool Exists(const std::string& path) = 0;
+    // The data of one entry by its full name, without any wildcard meaning.
+    virtual std::optional<FindData> Stat(const std::string& path) = 0;
+    // Which folder this is, for seeing that two paths lead to the same one.
+    // None when it is no folder or cannot be reached.
+    virtual std::optional<FolderId> FolderIdentity(const std::string& path) = 0;
+
+    // Renames, moves, copies or deletes one path; gives a DiskCode. foRename
+    // never replaces: an existing target of another file gives diskExists,
+    // in one atomic step wherever the disk has one. A change of case alone
+    // works on disks that are blind to case.
+    virtual int SHFileOperationA(const FileOperation& op) = 0;
+
+    // The whole of a file; none when it cannot be read or is larger than
+    // `limit` bytes.
+    virtual std::optional<std::string> ReadWhole(const std::string& path,
+                                                 std::uint64_t limit) = 0;
+
+    // UTC to the local time of that very moment, taken apart. False when the
+    // moment cannot be told; `out` then stays as it was.
+    virtual bool FileTimeToLocalSystemTime(FileTime time, SystemTime& out) = 0;
+
+    // The top level of the folder tree, in order.
+    virtual std::vector<RootPlace> RootPlaces() = 0;
+    virtual std::string SpecialFolderPath(SpecialFolder which) = 0;
+};
+
+} // namespace tavo

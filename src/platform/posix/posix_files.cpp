@@ -1,0 +1,205 @@
+#include "platform/posix/posix_files.h"
+
+#include "platform/posix/disk_entry.h"
+#include "platform/posix/disk_error.h"
+#include "platform/posix/places.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace tavo {
+
+namespace {
+
+// So many folders are held open by searches inside one another; a system
+// allows a program no more than about a thousand.
+constexpr std::size_t mostHeldFolders = 64;
+
+} // namespace
+
+PosixFiles::PosixFiles(std::unique_ptr<RenameDisk> disk)
+    : disk_(disk ? std::move(disk) : SystemRenameDisk()), renamer_(*disk_)
+{
+}
+
+FindHandle PosixFiles::FindFirstFileA(const std::string& pattern, FindData& found)
+{
+    return FindFirst(pattern, ListScope::Everything, found);
+}
+
+FindHandle PosixFiles::FindFirstFolder(const std::string& pattern, FindData& found)
+{
+    return FindFirst(pattern, ListScope::Folders, found);
+}
+
+FindHandle PosixFiles::FindFirst(const std::string& pattern, ListScope scope, FindData& found)
+{
+    const std::string_view name = NamePart(pattern);
+    if (!HasWildcards(name) || CheckPath(pattern) != diskOk)
+        return FindOne(pattern, scope, found);
+    auto search = std::make_unique<Search>();
+    if (!Done(search->Open(FolderPart(pattern), Pattern(name, rules_), scope)))
+        return invalidFind;
+    if (search->Next(found))
+        return Keep(std::move(search));
+    Done(diskMissing);
+    return invalidFind;
+}
+
+FindHandle PosixFiles::FindOne(const std::string& path, ListScope scope, FindData& found)
+{
+    FindData entry;
+    int code = path == "/" ? diskMissing : StatExact(path, entry);
+    if (code == diskOk && scope == ListScope::Folders && !(entry.Attributes & attrDirectory))
+        code = diskMissing;
+    if (!Done(code))
+        return invalidFind;
+    found = std::move(entry);
+    return ++lastHandle_;
+}
+
+FindHandle PosixFiles::Keep(std::unique_ptr<Search> search)
+{
+    LimitHeldFolders();
+    currentHandle_ = ++lastHandle_;
+    current_ = search.get();
+    searches_[currentHandle_] = std::move(search);
+    return currentHandle_;
+}
+
+void PosixFiles::LimitHeldFolders()
+{
+    std::size_t held = 0;
+    for (const auto& [handle, search] : searches_)
+        held += search->HoldsFolder() ? 1 : 0;
+    // The oldest waits longest for its turn.
+    for (auto search = searches_.begin(); held >= mostHeldFolders; ++search) {
+        if (!search->second->HoldsFolder())
+            continue;
+        search->second->ReleaseFolder();
+        --held;
+    }
+}
+
+bool PosixFiles::FindNextFileA(FindHandle handle, FindData& found)
+{
+    if (handle != currentHandle_) {
+        const auto search = searches_.find(handle);
+        if (search == searches_.end())
+            return Done(diskNoMoreFiles);
+        current_ = search->second.get();
+        currentHandle_ = handle;
+    }
+    if (current_ && current_->Next(found))
+        return Done(diskOk);
+    FindClose(handle);
+    return Done(diskNoMoreFiles);
+}
+
+void PosixFiles::FindClose(FindHandle handle)
+{
+    if (handle == currentHandle_) {
+        current_ = nullptr;
+        currentHandle_ = invalidFind;
+    }
+    searches_.erase(handle);
+}
+
+int PosixFiles::StatExact(const std::string& path, FindData& found)
+{
+    if (const int code = CheckPath(path))
+        return code;
+    const std::string_view name = path == "/" ? path : NamePart(path);
+    if (name.empty())
+        return MissingCodeOf(path);
+    const int error = ReadEntry(AT_FDCWD, path.c_str(), found);
+    if (error == ENOENT)
+        return MissingCodeOf(FolderPart(path));
+    if (error != 0)
+        return DiskCodeOf(error);
+    if ((found.Attributes & attrReparse) == 0)
+        found.Attributes |= ReadStoredAttributes(path);
+    found.Name = name;
+    return diskOk;
+}
+
+bool PosixFiles::Exists(const std::string& path)
+{
+    if (const int code = CheckPath(path))
+        return Done(code);
+    constexpr int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
+    struct statx data;
+    if (path != "/" && NamePart(path).empty())
+        return Done(MissingCodeOf(path));
+    if (statx(AT_FDCWD, path.c_str(), flags, STATX_TYPE, &data) == 0)
+        return Done(diskOk);
+    return Done(DiskCodeOf(errno));
+}
+
+std::optional<FindData> PosixFiles::Stat(const std::string& path)
+{
+    FindData found;
+    if (!Done(StatExact(path, found)))
+        return std::nullopt;
+    return found;
+}
+
+std::optional<FolderId> PosixFiles::FolderIdentity(const std::string& path)
+{
+    if (!Done(CheckPath(path)))
+        return std::nullopt;
+    struct stat data;
+    if (::stat(path.c_str(), &data) != 0) {
+        Done(DiskCodeOf(errno));
+        return std::nullopt;
+    }
+    if (!S_ISDIR(data.st_mode)) {
+        Done(diskMissingFolder);
+        return std::nullopt;
+    }
+    return FolderId{data.st_dev, data.st_ino};
+}
+
+int PosixFiles::SHFileOperationA(const FileOperation& op)
+{
+    Done(op.Func == foRename ? renamer_.Rename(op.From, op.To) : ownCodeBase + ENOTSUP);
+    return lastError_;
+}
+
+std::optional<std::string> PosixFiles::ReadWhole(const std::string& path, std::uint64_t limit)
+{
+    std::string bytes;
+    if (!Done(CheckPath(path)) || !Done(DiskCodeOf(ReadRegularFile(path, limit, bytes))))
+        return std::nullopt;
+    return bytes;
+}
+
+bool PosixFiles::FileTimeToLocalSystemTime(FileTime time, SystemTime& out)
+{
+    constexpr int invalidParameter = ownCodeBase + EINVAL;
+    return Done(clock_.ToLocal(time, out) ? diskOk : invalidParameter);
+}
+
+std::vector<RootPlace> PosixFiles::RootPlaces()
+{
+    std::vector<RootPlace> places = {{"Home", HomeFolder()}, {"File System", "/"}};
+    std::string mounts;
+    if (ReadRegularFile("/proc/self/mountinfo", 16 << 20, mounts) != 0)
+        return places;
+    for (RootPlace& volume : MountedVolumes(mounts))
+        places.push_back(std::move(volume));
+    return places;
+}
+
+std::string PosixFiles::SpecialFolderPath(SpecialFolder which)
+{
+    switch (which) {
+    case SpecialFolder::Home: return HomeFolder();
+    case SpecialFolder::Temp: return TempFolder();
+    case SpecialFolder::Trash: return TrashFolder();
+    }
+    return "/";
+}
+
+} // namespace tavo
