@@ -1,0 +1,53 @@
+#pragma once
+
+namespace tavo {
+
+class Program;
+class Tool;
+
+// What the tools of the command table do. Each takes the tool that was
+// clicked: a toggle stands as it does after the click.
+
+// File, edit and windows (command_handlers_file.cpp)
+void Cmd_NewList(Program& p, Tool& tool);
+void Cmd_CreateList(Program& p, Tool& tool);
+void Cmd_DefLoad(Program& p, Tool& tool);
+void Cmd_Exit(Program& p, Tool& tool);
+void Cmd_EditUndo(Program& p, Tool& tool);
+void Cmd_Cut(Program& p, Tool& tool);
+void Cmd_Copy(Program& p, Tool& tool);
+void Cmd_Paste(Program& p, Tool& tool);
+void Cmd_DefaultSize(Program& p, Tool& tool);
+void Cmd_AddressBar(Program& p, Tool& tool);
+void Cmd_TextLabels(Program& p, Tool& tool);
+
+// Selection screen (command_handlers_select.cpp)
+void Cmd_SelAll(Program& p, Tool& tool);
+void Cmd_SelInvert(Program& p, Tool& tool);
+void Cmd_SelClear(Program& p, Tool& tool);
+void Cmd_SelFolder(Program& p, Tool& tool);
+void Cmd_SelSubFiles(Program& p, Tool& tool);
+void Cmd_SelUseFilter(Program& p, Tool& tool);
+void Cmd_SelUsePath(Program& p, Tool& tool);
+void Cmd_PreviewOn(Program& p, Tool& tool);
+void Cmd_PreviewOff(Program& p, Tool& tool);
+
+// Rename screen (command_handlers_rename.cpp)
+void Cmd_RenAll(Program& p, Tool& tool);
+void Cmd_RenSelected(Program& p, Tool& tool);
+void Cmd_RefreshList(Program& p, Tool& tool);
+void Cmd_SelDelete(Program& p, Tool& tool);
+void Cmd_SelGroup(Program& p, Tool& tool);
+void Cmd_SelUp(Program& p, Tool& tool);
+void Cmd_SelDown(Program& p, Tool& tool);
+void Cmd_Views(Program& p, Tool& tool);
+void Cmd_ArrangeList(Program& p, Tool& tool);
+void Cmd_ArrangeDetails(Program& p, Tool& tool);
+void Cmd_ArrangeThumb(Program& p, Tool& tool);
+void Cmd_SortList(Program& p, Tool& tool);
+void Cmd_AutoFill(Program& p, Tool& tool);
+void Cmd_RenameMode(Program& p, Tool& tool);
+void Cmd_TmpApply(Program& p, Tool& tool);
+void Cmd_TmpApplySel(Program& p, Tool& tool);
+
+} // namespace tavo

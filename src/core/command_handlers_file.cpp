@@ -1,0 +1,108 @@
+#include "core/command_handlers.h"
+
+#include "core/screens.h"
+#include "core/tools.h"
+#include "core/windows.h"
+#include "renamelist/rename_list.h"
+#include "selection/selection_screen.h"
+#include "settings/settings_file.h"
+
+namespace tavo {
+
+namespace {
+
+// The box that clipboard commands work on; null for anything else. A list to
+// choose from has no text to cut.
+TextBox* Edit_Target(Program& p)
+{
+    auto* box = dynamic_cast<TextBox*>(p.main.ActiveControl());
+    const auto* combo = dynamic_cast<ComboBox*>(box);
+    return combo && combo->Style() == ComboKind::List ? nullptr : box;
+}
+
+// The tool's check and the flag behind it, turned round.
+bool Flag_Flip(std::uint8_t& flag, Tool& tool)
+{
+    flag = flag == 1 ? 0 : 1;
+    tool.Checked = flag == 1;
+    return flag == 1;
+}
+
+} // namespace
+
+void Cmd_NewList(Program& p, Tool&)
+{
+    if (!p.Busy())
+        Sel_Open(p, p.state.StartPath);
+}
+
+void Cmd_CreateList(Program& p, Tool&)
+{
+    Ren_List_Create(p);
+    // A folder has neither a tag nor times that could be set.
+    Tools_Enable(p, {"ID_MP3Tag", "ID_DateTime"}, p.state.SelFolderMode != 1);
+}
+
+void Cmd_DefLoad(Program& p, Tool&)
+{
+    // A run stands on the mode and the options that this would change.
+    if (!p.Busy() && p.state.CurScreen != screenAction)
+        Ini_Load(p, "Defaults", p.state.AppFolder + "Tavo.ini");
+}
+
+void Cmd_Exit(Program& p, Tool&)
+{
+    p.main.Unload();
+}
+
+void Cmd_EditUndo(Program& p, Tool&)
+{
+    Control* active = p.main.ActiveControl();
+    auto* box = dynamic_cast<TextBox*>(active);
+    if (box && !dynamic_cast<ComboBox*>(active))
+        box->UndoEdit();
+}
+
+void Cmd_Cut(Program& p, Tool&)
+{
+    if (TextBox* box = Edit_Target(p)) {
+        p.desktop.SetClipboardText(box->SelText());
+        box->SetSelText("");
+    }
+}
+
+void Cmd_Copy(Program& p, Tool&)
+{
+    if (const TextBox* box = Edit_Target(p))
+        p.desktop.SetClipboardText(box->SelText());
+}
+
+void Cmd_Paste(Program& p, Tool&)
+{
+    if (TextBox* box = Edit_Target(p))
+        box->SetSelText(p.desktop.ClipboardText());
+}
+
+void Cmd_DefaultSize(Program& p, Tool&)
+{
+    FrmMain& main = p.main;
+    if (main.State() == WindowState::Maximised)
+        main.SetState(WindowState::Normal);
+    main.Move(main.Left(), main.Top(), p.state.WinDefaultW, p.state.WinDefaultH);
+    Win_CenterScreen(p, main);
+    p.desktop.SetForegroundWindow(main);
+}
+
+void Cmd_AddressBar(Program& p, Tool& tool)
+{
+    const bool on = Flag_Flip(p.state.tbsAddress, tool);
+    if (Band* band = p.main.atbMain.FindBand("Address"))
+        band->SetVisible(on);
+}
+
+void Cmd_TextLabels(Program& p, Tool& tool)
+{
+    Tools_SetLabels(p, Flag_Flip(p.state.tbsTextLabels, tool));
+}
+
+} // namespace tavo

@@ -1,0 +1,108 @@
+#include "core/program.h"
+
+#include "core/commands.h"
+#include "core/frm_main.h"
+#include "core/screens.h"
+#include "core/start_up.h"
+#include "core/windows.h"
+#include "fileactions/frm_delete.h"
+#include "renamelist/act_run.h"
+#include "renamelist/nn_panel.h"
+#include "renamelist/rename_list.h"
+#include "selection/selection_screen.h"
+
+namespace tavo {
+
+Program::Program(Files& filesPort, Profile& profilePort, Desktop& desktopPort, StartInfo start)
+    : mainForm_(std::make_unique<FrmMain>()), files(filesPort), profile(profilePort),
+      desktop(desktopPort), info(std::move(start)), main(*mainForm_)
+{
+    Commands_Build(*this);
+    Main_Wire(*this);
+    Sel_Screen_Wire(*this);
+    Ren_List_Wire(*this);
+    NN_Panel_Wire(*this);
+    Act_Wire(*this);
+}
+
+Program::~Program() = default;
+
+void Program::Start()
+{
+    main.EnsureLoaded();
+    if (main.Loaded() && !main.Visible())
+        desktop.Show(main);
+    Settle();
+}
+
+void Program::Settle()
+{
+    if (!ClosePending || Busy())
+        return;
+    ClosePending = false;
+    main.Unload();
+}
+
+FrmDelete& Program::Delete()
+{
+    if (!deleteForm_)
+        deleteForm_ = std::make_unique<FrmDelete>(*this);
+    return *deleteForm_;
+}
+
+// Every form that has been made so far.
+std::vector<Form*> Program::Forms() const
+{
+    std::vector<Form*> forms{mainForm_.get()};
+    if (deleteForm_)
+        forms.push_back(deleteForm_.get());
+    return forms;
+}
+
+Form* Program::FindForm(std::string_view name) const
+{
+    for (Form* form : Forms())
+        if (form->Name() == name)
+            return form;
+    return nullptr;
+}
+
+std::vector<Form*> Program::LoadedForms() const
+{
+    std::vector<Form*> forms = Forms();
+    std::erase_if(forms, [](const Form* form) { return !form->Loaded(); });
+    return forms;
+}
+
+BoxAnswer Program::Say(const std::string& text, BoxIcon icon, BoxButtons buttons,
+                       BoxAnswer fallback)
+{
+    // A box of Yes and No has no OK to fall back on.
+    if (buttons == BoxButtons::YesNo && fallback == BoxAnswer::Ok)
+        fallback = BoxAnswer::Yes;
+    return desktop.MsgBox({text, std::string(appTitle) + " Says...", icon, buttons, fallback});
+}
+
+LongOperation::LongOperation(Program& program) : program_(program), mine_(program.busy_ == 0)
+{
+    if (mine_)
+        ++program_.busy_;
+}
+
+LongOperation::~LongOperation()
+{
+    if (mine_)
+        --program_.busy_;
+}
+
+BusyPointer::BusyPointer(Program& program) : program_(program)
+{
+    Cursor_Busy(program_, true);
+}
+
+BusyPointer::~BusyPointer()
+{
+    Cursor_Busy(program_, false);
+}
+
+} // namespace tavo

@@ -1,0 +1,149 @@
+#include "core/state.h"
+
+#include "toolkit/numbers.h"
+
+#include <algorithm>
+
+namespace tavo {
+
+namespace {
+
+using S = SharedState;
+
+template <class Number>
+std::string Value_Text(Number value)
+{
+    return IntToText(value);
+}
+
+std::string Value_Text(bool value)
+{
+    return BoolToText(value);
+}
+
+std::string Value_Text(const std::string& value)
+{
+    return value;
+}
+
+} // namespace
+
+const std::vector<Variable>& Variables()
+{
+    static const std::vector<Variable> table = {
+        {"SavePos", &S::SavePos},
+        {"SaveDef", &S::SaveDef},
+        {"actClose", &S::actClose},
+        {"ShowFile", &S::ShowFile},
+        {"SetDigits", &S::SetDigits},
+        {"PreList", &S::PreList},
+        {"ProExt", &S::ProExt},
+        {"SupWarnRen", &S::SupWarnRen},
+        {"SupWarnUndo", &S::SupWarnUndo},
+        {"AutoSelNext", &S::AutoSelNext},
+        {"AutoThumbs", &S::AutoThumbs},
+        {"RetRename", &S::RetRename},
+
+        {"RenMode", &S::RenMode},
+        {"ColViewWin", &S::ColViewWin},
+        {"Scheme", &S::Scheme},
+        {"ThumbCaption", &S::ThumbCaption},
+        {"Gif", &S::Gif},
+        {"tbsAddress", &S::tbsAddress},
+        {"tbsTextLabels", &S::tbsTextLabels},
+        {"tbtTextLabels", &S::tbtTextLabels},
+        {"tbvTextLabels", &S::tbvTextLabels},
+        {"SelPreview", &S::SelPreview},
+        {"ccMode", &S::ccMode},
+        {"ccCap", &S::ccCap},
+        {"ccWord", &S::ccWord},
+        {"ccTemp1", CaseTemp{1}},
+        {"ccTemp2", CaseTemp{2}},
+        {"ccTemp3", CaseTemp{3}},
+        {"ccTemp4", CaseTemp{4}},
+        {"ccTemp5", CaseTemp{5}},
+        {"ccTemp6", CaseTemp{6}},
+        {"nnStyle", &S::nnStyle},
+        {"NNStyle", &S::nnStyle},
+        {"nnStart", &S::nnStart},
+        {"NNStart", &S::nnStart},
+        {"nnDigits", &S::nnDigits},
+        {"NNDigits", &S::nnDigits},
+        {"nnAppTmpDef", &S::nnAppTmpDef},
+        {"nnAppTmp", &S::nnAppTmp},
+        {"nnAutoFill", &S::nnAutoFill},
+        {"AutoFill", &S::nnAutoFill},
+        {"srMode", &S::srMode},
+        {"srMatchCase", &S::srMatchCase},
+        {"srType", &S::srType},
+        {"dtCreate", &S::dtCreate},
+        {"dtMod", &S::dtMod},
+        {"dtAccess", &S::dtAccess},
+        {"mcdMode", &S::mcdMode},
+        {"lsvView", &S::lsvView},
+
+        {"AppFolder", &S::AppFolder},
+        {"StartPath", &S::StartPath},
+        {"Filter", &S::Filter},
+        {"CurFile", &S::CurFile},
+        {"CurScreen", &S::CurScreen},
+        {"PrevMode", &S::PrevMode},
+        {"RenCount", &S::RenCount},
+        {"ResizeOn", &S::ResizeOn},
+        {"MainAlive", &S::MainAlive},
+        {"SelFolderMode", &S::SelFolderMode},
+        {"DeleteChoice", &S::DeleteChoice},
+        {"WinDefaultW", &S::WinDefaultW},
+        {"WinDefaultH", &S::WinDefaultH},
+        {"colName", &S::colName},
+        {"colPath", &S::colPath},
+        {"colSize", &S::colSize},
+        {"colType", &S::colType},
+        {"colModified", &S::colModified},
+        {"colUndoName", &S::colUndoName},
+        {"colErrors", &S::colErrors},
+
+        {"ActCancel", &S::ActCancel},
+        {"ActReady", &S::ActReady},
+        {"ActPaused", &S::ActPaused},
+        {"ClockFlag", &S::ClockFlag},
+        {"DragX", &S::DragX},
+        {"DragY", &S::DragY},
+        {"SplitX", &S::SplitX},
+        {"SplitY", &S::SplitY},
+        {"MinWidth", &S::MinWidth},
+        {"MinHeight", &S::MinHeight},
+        {"ClientW", &S::ClientW},
+        {"ClientH", &S::ClientH},
+
+        {"ActShow", &S::ActShow},
+        {"ActPrevView", &S::ActPrevView},
+        {"ActSavedInfo", &S::ActSavedInfo},
+        {"LastRows", &S::LastRows},
+        {"LastMode", &S::LastMode},
+        {"RenFailed", &S::RenFailed},
+        {"RenErrCode", &S::RenErrCode},
+        {"ListDragging", &S::ListDragging},
+        {"PreviewOn", &S::PreviewOn},
+        {"CurRow", &S::CurRow},
+        {"OldName", &S::OldName},
+        {"OldExt", &S::OldExt},
+        {"FullName", &S::FullName},
+    };
+    return table;
+}
+
+const Variable* Variable_Find(std::string_view name)
+{
+    const auto& table = Variables();
+    const auto row = std::find_if(table.begin(), table.end(),
+                                  [&](const Variable& v) { return v.Name == name; });
+    return row == table.end() ? nullptr : &*row;
+}
+
+std::string Variable_Text(const SharedState& state, const Variable& variable)
+{
+    return Variable_Use(state, variable, [](const auto& value) { return Value_Text(value); });
+}
+
+} // namespace tavo
