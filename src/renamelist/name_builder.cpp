@@ -1,0 +1,31 @@
+#include "renamelist/name_builder.h"
+
+#include "core/state.h"
+#include "renamelist/counters.h"
+
+namespace tavo {
+
+NameBuilder::NameBuilder(std::string_view nameTemplate, std::string_view extTemplate,
+                         const SharedState& state)
+    : nameTemplate_(nameTemplate), extTemplate_(extTemplate), style_(state.nnStyle),
+      digits_(state.nnDigits), start_(Cnt_Start(state.nnStart, state.nnStyle))
+{
+    Tmpl_Scan(nameTemplate_, nameFlags_);
+    Tmpl_Scan(extTemplate_, extFlags_);
+}
+
+void NameBuilder::Build(std::string_view baseName, std::string_view extension,
+                        std::int64_t counter)
+{
+    const std::string counterText = Counts() ? Cnt_Text(counter, style_, digits_) : std::string();
+    newName_ = nameTemplate_;
+    extText_ = extTemplate_;
+    if (nameFlags_[0])
+        Tmpl_ApplyOld(newName_, baseName, extension, counterText, nameFlags_);
+    if (extFlags_[0])
+        Tmpl_ApplyOld(extText_, baseName, extension, counterText, extFlags_);
+    if (!extText_.empty())
+        newName_.append(1, '.').append(extText_);
+}
+
+} // namespace tavo

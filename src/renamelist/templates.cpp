@@ -1,0 +1,133 @@
+#include "renamelist/templates.h"
+
+#include "toolkit/text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace tavo {
+
+namespace {
+
+constexpr std::string_view forbiddenInNames = "\\/:*?<>|\"";
+
+bool Is_BadInTemplate(char c)
+{
+    return c != '<' && forbiddenInNames.find(c) != std::string_view::npos;
+}
+
+// The token that begins at `pos`: up to the first ">" within four characters,
+// in capitals; empty when there is none.
+std::string Token_At(std::string_view text, int pos)
+{
+    const std::string four = Mid(text, pos, 4);
+    return UCase(Left(four, InStr(four, ">")));
+}
+
+bool Is_Token(std::string_view token, bool allowExisting)
+{
+    if (allowExisting && (token == "<E>" || token == "<ER>"))
+        return true;
+    return std::any_of(Template_Tokens().begin(), Template_Tokens().end(),
+                       [&](const TemplateToken& known) { return known.Token == token; });
+}
+
+void Remove_CharAt(std::string& text, int pos)
+{
+    text = Left(text, pos - 1) + Mid(text, pos + 1);
+}
+
+} // namespace
+
+const std::array<TemplateToken, 9>& Template_Tokens()
+{
+    static constexpr std::array<TemplateToken, 9> tokens{{
+        {"<#>", 1, "Click to Insert Counter (Ctrl+1)"},
+        {"<ON>", 2, "Click to Insert Old Name (Ctrl+2)"},
+        {"<OE>", 3, "Click to Insert Old Extension (Ctrl+3)"},
+        {"<T>", 5, "Click to Insert MP3 Title"},
+        {"<AR>", 6, "Click to Insert MP3 Artist"},
+        {"<AL>", 7, "Click to Insert MP3 Album"},
+        {"<G>", 8, "Click to Insert MP3 Genre"},
+        {"<Y>", 9, "Click to Insert MP3 Year"},
+        {"<TR>", 10, "Click to Insert MP3 Track"},
+    }};
+    return tokens;
+}
+
+void Tmpl_Scan(std::string_view text, TmplFlags& flags)
+{
+    flags.fill(false);
+    for (const TemplateToken& token : Template_Tokens()) {
+        const auto flag = static_cast<std::size_t>(token.Flag);
+        flags[flag] = text.find(token.Token) != std::string_view::npos;
+        flags[flag < 4 ? 0 : 4] = flags[flag < 4 ? 0 : 4] || flags[flag];
+    }
+}
+
+void Tmpl_Replace(std::string& text, std::string_view token, std::string_view value)
+{
+    // The search starts anew where the value was put, so a value that holds
+    // the token grows the text until its positions no longer fit. A value that
+    // is the token itself would stand there for ever, and is stepped over.
+    constexpr int lastPos = std::numeric_limits<std::int16_t>::max();
+    const int step = SameText(value, token) ? Len(value) : 0;
+    int pos = 1;
+    while ((pos = InStr(pos, text, token, Compare::Text)) > 0 && pos <= lastPos) {
+        const std::size_t begin = BytePosOf(text, pos);
+        const std::size_t end = BytePosOf(text, pos + Len(token));
+        text.replace(begin, end - begin, value);
+        if (text.size() > static_cast<std::size_t>(lastPos))
+            return;
+        pos += step;
+    }
+}
+
+void Tmpl_ApplyOld(std::string& text, std::string_view baseName, std::string_view extension,
+                   std::string_view counterText, const TmplFlags& flags)
+{
+    if (flags[2])
+        Tmpl_Replace(text, "<ON>", baseName);
+    if (flags[3])
+        Tmpl_Replace(text, "<OE>", extension);
+    if (flags[1])
+        Tmpl_Replace(text, "<#>", counterText);
+}
+
+std::string Str_KeepNonDigits(std::string_view text)
+{
+    std::string result(text);
+    std::erase_if(result, [](char c) { return c >= '0' && c <= '9'; });
+    return result;
+}
+
+bool Tmpl_CheckBox(std::string& text, bool allowExisting)
+{
+    bool isGood = true;
+    int pos = 1;
+    while (pos <= Len(text)) {
+        const std::string c = CharAt(text, pos);
+        const bool isBad = c.size() == 1 && Is_BadInTemplate(c.front());
+        if (!isBad && c != "<") {
+            ++pos;
+            continue;
+        }
+        const std::string token = isBad ? std::string() : Token_At(text, pos);
+        if (Is_Token(token, allowExisting)) {
+            pos += Len(token);
+            continue;
+        }
+        Remove_CharAt(text, pos);
+        isGood = false;
+    }
+    return isGood;
+}
+
+bool Str_StripBadChars(std::string& text)
+{
+    const auto removed = std::erase_if(
+        text, [](char c) { return forbiddenInNames.find(c) != std::string_view::npos; });
+    return removed == 0;
+}
+
+} // namespace tavo
