@@ -13,6 +13,8 @@
 
 namespace tavo {
 
+class SortKeys;
+
 // The rows of a list: their texts, their order, which are selected, and an
 // index by the text of column 0. Positions count from 1 and columns from 0;
 // those beyond the list read as empty, and writing there changes nothing.
@@ -102,6 +104,8 @@ private:
     bool WriteCell(RowId row, int column, std::string_view text);
 
     std::vector<RowId> InOrder() const;
+    void AddKeys(const std::vector<RowId>& rows, int column, Collation collation,
+                 SortKeys& keys) const;
     std::vector<RowId> SortedByText(int column, bool descending, Collation collation) const;
     std::vector<RowId> SortedByRank(int column, bool descending, Collation collation) const;
     std::vector<std::uint32_t> PoolRanks(const std::vector<std::uint32_t>& ids, bool descending,

@@ -30,14 +30,11 @@ std::vector<RowId> RowStore::SortedRows(int column, bool descending, Collation c
                             : SortedByText(column, descending, collation);
 }
 
-std::vector<RowId> RowStore::SortedByText(int column, bool descending, Collation collation) const
+// Rows lie all over the memory: each step is taken for many before the next, so
+// that the waits run side by side.
+void RowStore::AddKeys(const std::vector<RowId>& rows, int column, Collation collation,
+                       SortKeys& keys) const
 {
-    SortKeys keys;
-    const auto count = static_cast<std::size_t>(Count());
-    keys.Reserve(count, count * usualKeyBytes);
-    const std::vector<RowId> rows = InOrder();
-    // Rows lie all over the memory: to look up many before the first is worked
-    // on lets the waits for them run side by side.
     std::array<RowRecord, 64> records;
     std::array<std::string_view, 64> cells;
     for (std::size_t at = 0; at < rows.size(); at += cells.size()) {
@@ -49,6 +46,14 @@ std::vector<RowId> RowStore::SortedByText(int column, bool descending, Collation
         for (std::size_t i = 0; i < many; ++i)
             keys.Add(cells[i], collation);
     }
+}
+
+std::vector<RowId> RowStore::SortedByText(int column, bool descending, Collation collation) const
+{
+    const std::vector<RowId> rows = InOrder();
+    SortKeys keys;
+    keys.Reserve(rows.size(), rows.size() * usualKeyBytes);
+    AddKeys(rows, column, collation, keys);
     if (keys.InOrder(descending))
         return {};
     std::vector<RowId> sorted = keys.Order(descending);

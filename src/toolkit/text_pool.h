@@ -39,7 +39,10 @@ private:
 
     // The text last taken of each length (modulo the size): the next is often
     // the same, and then needs no hash.
-    std::uint32_t& RecentFor(std::string_view text) { return recent_[text.size() % recent_.size()]; }
+    std::uint32_t& RecentFor(std::string_view text)
+    {
+        return recent_[text.size() % recent_.size()];
+    }
     std::uint32_t Find(std::string_view text, std::uint32_t hash) const;
     std::uint32_t NewEntry(std::string_view text, std::uint32_t hash);
     void AddSlot(std::uint32_t id);

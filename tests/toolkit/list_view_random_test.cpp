@@ -59,9 +59,10 @@ public:
             Sort_Key_Append(text, row.Cells[column], order);
             return text;
         };
-        std::stable_sort(Rows.begin(), Rows.end(), [&](const ModelRow& left, const ModelRow& right) {
+        const auto before = [&](const ModelRow& left, const ModelRow& right) {
             return descending ? key(right) < key(left) : key(left) < key(right);
-        });
+        };
+        std::stable_sort(Rows.begin(), Rows.end(), before);
     }
     int Find(const std::string& text, int after) const
     {
@@ -231,7 +232,10 @@ private:
             name += Below(2) == 0 ? "\xC3\x84" : "\xC3\xA4";
         return Below(40) == 0 ? std::string(static_cast<std::size_t>(Below(300)), 'x') : name;
     }
-    std::string CellText(int column) { return column == 0 ? Name() : "p" + std::to_string(Below(9)); }
+    std::string CellText(int column)
+    {
+        return column == 0 ? Name() : "p" + std::to_string(Below(9));
+    }
 
     void Add()
     {

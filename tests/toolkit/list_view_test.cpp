@@ -393,6 +393,29 @@ TEST_F(ListViewTest, What_the_hosts_own_view_selects_is_taken_over_silently)
     EXPECT_EQ(clicks, " item4 beside");
 }
 
+TEST_F(ListViewTest, A_press_selects_by_the_keys_held_and_is_a_click)
+{
+    Fill("abcdef");
+    struct {
+        int Position, Shift;
+        const char* Wanted;
+    } const steps[] = {
+        {3, shiftNone, "ab[c]*def"},
+        {5, shiftShift, "ab[c][d][e]*f"},
+        {2, shiftShift, "a[b]*[c]def"},
+        {5, shiftCtrl, "a[b][c]d[e]*f"},
+        {3, shiftCtrl, "a[b]c*d[e]f"},
+        {4, shiftShift, "ab[c][d]*ef"},
+        {6, shiftNone, "abcde[f]*"},
+        {0, shiftNone, "abcde[f]*"},
+    };
+    for (const auto& step : steps) {
+        list.PersonPress(step.Position, step.Shift);
+        EXPECT_EQ(Shown(), step.Wanted) << step.Position << " " << step.Shift;
+    }
+    EXPECT_EQ(clicks, " item3 item5 item2 item5 item3 item4 item6 beside");
+}
+
 TEST_F(ListViewTest, A_handler_of_the_click_may_change_the_list)
 {
     Fill("abc");
