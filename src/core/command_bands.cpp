@@ -53,10 +53,9 @@ constexpr BandPlan bands[] = {
 };
 
 // The rows of ID_RenameList; a row's number is its mode.
-constexpr std::string_view modeRows[] = {
-    "Attributes",    "Change Case",      "Date & Time",       "Move & Copy",
-    "Name & Number", "Search & Replace", "MP3 Tag (ID3v1.1)",
-};
+constexpr std::string_view modeRows[] = {"Attributes",       "Change Case",   "Date & Time",
+                                         "Move & Copy",      "Name & Number", "Search & Replace",
+                                         "MP3 Tag (ID3v1.1)"};
 
 void Tool_Add(ToolBars& bars, const Command& command)
 {
@@ -80,9 +79,8 @@ void Band_Fill(ToolBars& bars, const BandPlan& plan)
         if (id.empty())
             break;
         const bool parts = id == "-";
-        const std::string name = parts ? "Sep" + std::string(plan.Name)
-                                             + std::to_string(++separators)
-                                       : std::string(id);
+        const std::string name =
+            parts ? "Sep" + std::string(plan.Name) + std::to_string(++separators) : std::string(id);
         if (parts)
             bars.AddTool(name, ToolKind::Separator);
         if (Tool* tool = bars.Find(name))
@@ -98,8 +96,10 @@ void Tools_Begin(Program& p)
     Tools_Show(p, {"ID_mnuTemplates", "ID_SelPreviewOff"}, false);
     Tools_Enable(p, {"ID_ThumbCaption", "ID_mnuCapAlign"}, false);
     Tools_ListEnable(p, false);
+    ComboBox& modes = *Tool_Combo(p, "ID_RenameList");
+    modes.SetStyle(ComboKind::List);
     for (const std::string_view row : modeRows)
-        Tool_Combo(p, "ID_RenameList")->AddItem(std::string(row));
+        modes.AddItem(std::string(row));
 }
 
 void Events_Wire(Program& p)

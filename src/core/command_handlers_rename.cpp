@@ -21,18 +21,16 @@ constexpr ById modeTools[] = {
     {"ID_Attributes", modeAttributes}, {"ID_ChangeCase", modeCase},
     {"ID_DateTime", modeDateTime},     {"ID_MoveCopy", modeMoveCopy},
     {"ID_NameNumber", modeNameNumber}, {"ID_SearchReplace", modeSearchReplace},
-    {"ID_MP3Tag", modeMp3Tag},
-};
+    {"ID_MP3Tag", modeMp3Tag}};
 
 struct SortTool {
     std::string_view Id, ColumnKey;
 };
 
-constexpr SortTool sortTools[] = {
-    {"ID_byName", "Name"},     {"ID_byPath", "Path"},         {"ID_byType", "Type"},
-    {"ID_bySize", "Size"},     {"ID_byDate", "Modified"},     {"ID_byUndoName", "UndoName"},
-    {"ID_byError", "Errors"},
-};
+constexpr SortTool sortTools[] = {{"ID_byName", "Name"},     {"ID_byPath", "Path"},
+                                  {"ID_byType", "Type"},     {"ID_bySize", "Size"},
+                                  {"ID_byDate", "Modified"}, {"ID_byUndoName", "UndoName"},
+                                  {"ID_byError", "Errors"}};
 
 void View_Choose(Program& p, int code)
 {

@@ -17,8 +17,8 @@ FrmMain::FrmMain() : Form("frmMain")
 void FrmMain::DesignSelection()
 {
     fraSelect.Visible = false;
-    for (Control* control : std::initializer_list<Control*>{
-             &ftvSelMain, &lsvSelMain, &picSelPreview, &lblSelDBX, &lblSelDBY})
+    for (Control* control : std::initializer_list<Control*>{&ftvSelMain, &lsvSelMain,
+                                                            &picSelPreview, &lblSelDBX, &lblSelDBY})
         control->Container = &fraSelect;
     imgSelPreview.Container = &picSelPreview;
     imgSelPreview.Visible = false;
@@ -34,11 +34,11 @@ namespace {
 // The columns that both lists begin with.
 void Columns_Add(ListView& list)
 {
-    list.AddColumn({"Name", "Name", 3000, false, SortMark::None, false});
-    list.AddColumn({"Path", "Path", 3300, false, SortMark::None, true});
-    list.AddColumn({"Size", "Size", 1300, true, SortMark::None, false});
-    list.AddColumn({"Type", "Type", 900, false, SortMark::None, true});
-    list.AddColumn({"Modified", "Modified", 2100, false, SortMark::None, false});
+    list.AddColumn({"Name", "Name", 2460, false, SortMark::None, false});
+    list.AddColumn({"Path", "Path", 1920, false, SortMark::None, true});
+    list.AddColumn({"Size", "Size", 1020, true, SortMark::None, false});
+    list.AddColumn({"Type", "Type", 750, false, SortMark::None, true});
+    list.AddColumn({"Modified", "Modified", 1980, false, SortMark::None, false});
 }
 
 } // namespace
@@ -47,8 +47,8 @@ void FrmMain::DesignLists()
 {
     Columns_Add(lsvSelMain);
     Columns_Add(lsvRename);
-    lsvRename.AddColumn({"UndoName", "UndoName", 2400, false, SortMark::None, false});
-    lsvRename.AddColumn({"Errors", "Errors", 1800, false, SortMark::None, true});
+    lsvRename.AddColumn({"UndoName", "UndoName", 2280, false, SortMark::None, false});
+    lsvRename.AddColumn({"Errors", "Errors", 1440, false, SortMark::None, true});
     lsvRename.AccessibleName = "Rename list";
     picThumbnails.AccessibleName = "Thumbnails";
     for (Control* control : std::initializer_list<Control*>{&lsvRename, &picThumbnails, &picAction})

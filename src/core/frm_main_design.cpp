@@ -228,9 +228,9 @@ void SearchReplace_Design(FrmMain& f)
     f.txtSearchStart.AccessibleName = "First position";
     f.txtSearchEnd.AccessibleName = "Last position";
     // Range is the other type; its boxes lie where those of Text stand.
-    for (Control* control : std::initializer_list<Control*>{
-             &f.lblSearchRange[0], &f.lblSearchRange[1], &f.txtSearchStart, &f.lblSearchRangeTo,
-             &f.txtSearchEnd})
+    for (Control* control :
+         std::initializer_list<Control*>{&f.lblSearchRange[0], &f.lblSearchRange[1],
+                                         &f.txtSearchStart, &f.lblSearchRangeTo, &f.txtSearchEnd})
         control->Visible = false;
 }
 
@@ -238,10 +238,8 @@ struct TagField {
     std::string_view Caption;
     int MaxLength;
 };
-constexpr TagField tagFields[] = {
-    {"Title", 30}, {"Artist", 30}, {"Album", 30}, {"Comment", 29},
-    {"Year", 4},   {"Track", 3},   {"Genre", 0},
-};
+constexpr TagField tagFields[] = {{"Title", 30}, {"Artist", 30}, {"Album", 30}, {"Comment", 29},
+                                  {"Year", 4},   {"Track", 3},   {"Genre", 0}};
 
 void Mp3Tag_Design(FrmMain& f)
 {

@@ -14,9 +14,8 @@ namespace tavo {
 namespace {
 
 constexpr std::array<std::string_view, 8> titleSuffixes = {
-    " - Attributes",     " - Change Case",      " - Date & Time",           " - Move & Copy",
-    " - Name & Number",  " - Search & Replace", " - MP3 Tag (ID3v1.1)",     " - Empty List",
-};
+    " - Attributes",    " - Change Case",      " - Date & Time",       " - Move & Copy",
+    " - Name & Number", " - Search & Replace", " - MP3 Tag (ID3v1.1)", " - Empty List"};
 
 bool IsChoice(int mode)
 {

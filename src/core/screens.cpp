@@ -34,8 +34,9 @@ void Bands_Show(Program& p, bool selection)
 void Screen_Tools(Program& p, bool selection)
 {
     Tools_Enable(p, {"ID_ExportList", "ID_tbAddress"}, selection);
-    Tools_Enable(p, {"ID_mnuRenMode", "ID_ArrangeList", "ID_ArrangeDetails", "ID_ArrangeThumb",
-                     "ID_mnuArrange"},
+    Tools_Enable(p,
+                 {"ID_mnuRenMode", "ID_ArrangeList", "ID_ArrangeDetails", "ID_ArrangeThumb",
+                  "ID_mnuArrange"},
                  !selection);
 }
 
@@ -74,18 +75,11 @@ void Selection_Show(Program& p, bool refill)
 void Screen_Content(Program& p, int screen, int left, bool refill)
 {
     switch (screen) {
-    case screenSelection:
-        return Selection_Show(p, refill);
-    case screenRename:
-        return Rename_Show(p, left);
-    case screenThumbnails:
-        p.main.picThumbnails.Visible = true;
-        return p.RowsRedrawn();
-    case screenAction:
-        p.main.picAction.Visible = true;
-        return;
-    default:
-        return;
+    case screenSelection: return Selection_Show(p, refill);
+    case screenRename: return Rename_Show(p, left);
+    case screenThumbnails: p.main.picThumbnails.Visible = true; return p.RowsRedrawn();
+    case screenAction: p.main.picAction.Visible = true; return;
+    default: return;
     }
 }
 

@@ -50,8 +50,8 @@ void Sizes_Begin(Program& p)
     s.WinDefaultW = static_cast<std::int32_t>(defaultWidthPixels * twips);
     s.ClientW = s.ClientH = 0;
     s.MinWidth = smallestWidth;
-    s.MinHeight = static_cast<std::int32_t>(smallestHeight - p.main.FrameHeight()
-                                            - p.main.stbMain.Height);
+    s.MinHeight =
+        static_cast<std::int32_t>(smallestHeight - p.main.FrameHeight() - p.main.stbMain.Height);
 }
 
 // All screens lie on top of each other.
@@ -152,8 +152,7 @@ void Cols_Init(Program& p)
         {"Name", &SharedState::colName},         {"Path", &SharedState::colPath},
         {"Size", &SharedState::colSize},         {"Type", &SharedState::colType},
         {"Modified", &SharedState::colModified}, {"UndoName", &SharedState::colUndoName},
-        {"Errors", &SharedState::colErrors},
-    };
+        {"Errors", &SharedState::colErrors}};
     for (const Place& place : places) {
         const int column = p.main.lsvRename.ColumnByKey(place.Key);
         if (column >= 0)

@@ -136,8 +136,8 @@ const std::vector<Variable>& Variables()
 const Variable* Variable_Find(std::string_view name)
 {
     const auto& table = Variables();
-    const auto row = std::find_if(table.begin(), table.end(),
-                                  [&](const Variable& v) { return v.Name == name; });
+    const auto row =
+        std::find_if(table.begin(), table.end(), [&](const Variable& v) { return v.Name == name; });
     return row == table.end() ? nullptr : &*row;
 }
 

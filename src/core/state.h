@@ -80,9 +80,9 @@ struct SharedState {
     std::uint8_t SelPreview = 0;
     std::uint8_t ccMode = 0, ccCap = 0, ccWord = 0;
     std::array<std::string, 7> ccTemp; // 1 to 6
-    std::uint8_t nnStyle = 0;  // 1 number, 2 small letters, 3 capital letters
-    std::string nnStart;       // the counter's start, as text
-    std::int16_t nnDigits = 0; // the counter's width
+    std::uint8_t nnStyle = 0;          // 1 number, 2 small letters, 3 capital letters
+    std::string nnStart;               // the counter's start, as text
+    std::int16_t nnDigits = 0;         // the counter's width
     std::int16_t nnAppTmpDef = 0;
     std::uint8_t nnAppTmp = 0, nnAutoFill = 0;
     std::uint8_t srMode = 0, srMatchCase = 0, srType = 0;

@@ -5,12 +5,20 @@
 
 namespace tavo {
 
+namespace {
+
+// The menu behind the arrow of ID_Views is on no band, so it has to be switched
+// with that tool: its entries would stay in reach through it.
+constexpr std::string_view viewsMenu = "ID_mnuViews";
+
+} // namespace
+
 void Tools_ListEnable(Program& p, bool on)
 {
     Tools_Enable(p,
                  {"ID_RenSelected", "ID_RenAll", "ID_RenUndo", "ID_SelDelete", "ID_SelGroup",
                   "ID_SelUp", "ID_SelDown", "ID_SelDistance", "ID_RefreshList", "ID_Views",
-                  "ID_AutoFill", "ID_RenameList", "ID_ViewerUp", "ID_Viewer"},
+                  "ID_AutoFill", "ID_RenameList", "ID_ViewerUp", "ID_Viewer", viewsMenu},
                  on);
     Tools_Show(p, {"ID_mnuThumbnail", "ID_mnuTSchemes"}, on);
 }
@@ -20,13 +28,12 @@ void Tools_RunEnable(Program& p, bool on)
     if (Frame* panel = p.main.ctlRbRenMode.At(p.state.RenMode))
         panel->Enabled = on;
     p.main.picThumbnails.Enabled = on;
-    Tools_Enable(p,
-                 {"ID_NewList",      "ID_CreateList",   "ID_RenSelected", "ID_RenAll",
-                  "ID_RenUndo",      "ID_SelDelete",    "ID_SelGroup",    "ID_SelUp",
-                  "ID_SelDown",      "ID_SelDistance",  "ID_RefreshList", "ID_Views",
-                  "ID_AutoFill",     "ID_RenameList",   "ID_ViewerUp",    "ID_Viewer",
-                  "ID_mnuEdit",      "ID_mnuView",      "ID_mnuFavorites", "ID_mnuThumbnail",
-                  "ID_mnuTSchemes",  "ID_mnuTemplates"},
+    Tools_Enable(p, {"ID_NewList",     "ID_CreateList",   "ID_RenSelected",  "ID_RenAll",
+                     "ID_RenUndo",     "ID_SelDelete",    "ID_SelGroup",     "ID_SelUp",
+                     "ID_SelDown",     "ID_SelDistance",  "ID_RefreshList",  "ID_Views",
+                     "ID_AutoFill",    "ID_RenameList",   "ID_ViewerUp",     "ID_Viewer",
+                     "ID_mnuEdit",     "ID_mnuView",      "ID_mnuFavorites", "ID_mnuThumbnail",
+                     "ID_mnuTSchemes", "ID_mnuTemplates", viewsMenu},
                  on);
 }
 
@@ -35,8 +42,8 @@ void Tools_SelEnable(Program& p, bool on)
     p.main.fraSelect.Enabled = on;
     Tools_Enable(p,
                  {"ID_CreateList", "ID_SelAll", "ID_SelClear", "ID_SelFolder", "ID_sFilter",
-                  "ID_FilAdd", "ID_SelUsePath", "ID_SelPreviewOn", "ID_SelPreviewOff",
-                  "ID_mnuEdit", "ID_mnuView", "ID_mnuFavorites"},
+                  "ID_FilAdd", "ID_SelUsePath", "ID_SelPreviewOn", "ID_SelPreviewOff", "ID_mnuEdit",
+                  "ID_mnuView", "ID_mnuFavorites"},
                  on);
     // A walk for folders never goes into the subfolders.
     Tools_Enable(p, {"ID_SelSubFiles"}, on && p.state.SelFolderMode != 1);
@@ -55,9 +62,11 @@ void Tools_SetLabels(Program& p, bool on)
         std::string_view Id;
         ToolStyle Without;
     };
-    static constexpr Readable readables[] = {{"ID_sFilter", ToolStyle::PictureAndText},
-                                             {"ID_FilAdd", ToolStyle::TextOnly},
-                                             {"ID_SelAll", ToolStyle::TextOnly}};
+    static constexpr Readable readables[] = {
+        {"ID_sFilter", ToolStyle::PictureAndText},
+        {"ID_FilAdd", ToolStyle::TextOnly},
+        {"ID_SelAll", ToolStyle::TextOnly},
+    };
     for (const Readable& row : readables)
         if (Tool* tool = p.main.atbMain.Find(row.Id))
             tool->Style = on ? ToolStyle::PictureAndText : row.Without;

@@ -102,8 +102,7 @@ std::vector<std::string> Key_Names(Program& p, const std::string& section, const
 void Favorites_Load(Program& p, const std::string& section, const std::string& file)
 {
     Ini_ReadList(p, section, p.state.Favorites, file, 30);
-    Menu_Rebuild(p.main.atbMain, p.state.Favorites, "folder", "ID_Favorite", 4,
-                 "ID_mnuFavorites");
+    Menu_Rebuild(p.main.atbMain, p.state.Favorites, "folder", "ID_Favorite", 4, "ID_mnuFavorites");
     FavPath_Rebuild(p);
 }
 
@@ -178,25 +177,21 @@ struct Section {
 };
 
 constexpr Section sections[] = {
-    {"CaseWordList", CaseWords_Load}, {"Favorites", Favorites_Load},
-    {"Filters", Filters_Load},        {"Templates", Templates_Load},
-    {"ThumbSchemes", Schemes_Load},   {"Windows", Windows_Load},
-    {"Defaults", Keys_Load},          {"Settings", Keys_Load},
-    {"Position", Position_Load},
-};
+    {"CaseWordList", CaseWords_Load}, {"Favorites", Favorites_Load},  {"Filters", Filters_Load},
+    {"Templates", Templates_Load},    {"ThumbSchemes", Schemes_Load}, {"Windows", Windows_Load},
+    {"Defaults", Keys_Load},          {"Settings", Keys_Load},        {"Position", Position_Load}};
 
 } // namespace
 
 std::string Ini_Get(Program& p, const std::string& section, const std::string& key,
                     const std::string& fallback, const std::string& file)
 {
-    const std::string text =
-        p.profile.GetPrivateProfileStringA(section, key, "", bufferSize, file);
+    const std::string text = p.profile.GetPrivateProfileStringA(section, key, "", bufferSize, file);
     return text.empty() ? fallback : text;
 }
 
-void Ini_ReadList(Program& p, const std::string& section, NamedList& list,
-                  const std::string& file, int maxName)
+void Ini_ReadList(Program& p, const std::string& section, NamedList& list, const std::string& file,
+                  int maxName)
 {
     list.assign(1, {});
     for (const std::string& key : Key_Names(p, section, file))

@@ -17,8 +17,8 @@ std::string Ini_Get(Program& p, const std::string& section, const std::string& k
                     const std::string& fallback, const std::string& file);
 // Fills a list of names and values; names are cut to `maxName` characters
 // after their value was read.
-void Ini_ReadList(Program& p, const std::string& section, NamedList& list,
-                  const std::string& file, int maxName);
+void Ini_ReadList(Program& p, const std::string& section, NamedList& list, const std::string& file,
+                  int maxName);
 // Reads one whole section into the program, and shows it.
 void Ini_Load(Program& p, const std::string& section, const std::string& file);
 // Takes five fields off `text`: left, top, width, height, state.

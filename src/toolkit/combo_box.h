@@ -20,6 +20,8 @@ public:
     ComboBox(Form& form, std::string name, int index = -1, ComboKind kind = ComboKind::Editable);
 
     ComboKind Style() const { return style_; }
+    // Before a host shows it.
+    void SetStyle(ComboKind kind) { style_ = kind; }
     const std::vector<std::string>& Items() const { return items_; }
     // Takes away all rows, and with them choice and text. Raises nothing.
     void Clear();
