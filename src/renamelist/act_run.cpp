@@ -7,10 +7,10 @@
 #include "renamelist/nn_run.h"
 #include "renamelist/preview.h"
 #include "renamelist/rename_list.h"
-#include "selection/paths.h"
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace tavo {
 
@@ -237,51 +237,11 @@ void Remove_Work(Program& p, int, int)
     Ren_List_RemoveSelected(p);
 }
 
-// -- The check of a mode's input: each gives the message that refuses, or
-// nothing.
-
-std::string_view Refusal_Search(Program& p)
-{
-    constexpr int typeText = 1;
-    const bool nothing = p.state.srType == typeText && p.main.txtSearchFind.Text.Get().empty();
-    return nothing ? "Nothing to Find!" : "";
-}
-
-std::string_view Refusal_Destination(Program& p)
-{
-    constexpr int keepsFolder = 3;
-    if (p.state.mcdMode == keepsFolder)
-        return "";
-    const std::string& typed = p.main.txtmcdPath.Text;
-    if (typed.empty())
-        return "There is No Destination Path!";
-    std::string path = Path_AddSlash(typed, p.files.Rules());
-    return Folder_Exists(p.files, path) ? "" : "The Destination Path Appears to be Invalid!";
-}
-
-std::string_view Refusal_Tag(Program& p)
-{
-    const bool any = std::ranges::any_of(
-        p.main.chkMP3, [](const auto& box) { return box->Value.Get() == 1; });
-    return any ? "" : "Check an Item to Update!";
-}
-
-struct ModeCheck {
-    RenameMode Mode;
-    std::string_view (*Refusal)(Program& p);
-};
-
-constexpr ModeCheck modeChecks[] = {
-    {modeMoveCopy, Refusal_Destination},
-    {modeSearchReplace, Refusal_Search},
-    {modeMp3Tag, Refusal_Tag},
-};
-
 // -- Buttons.
 
 // The walk stands below this spin, in its own call of the pump. The click that
-// goes on comes in through the spin and ends it from inside. A window about to
-// close goes on, too, for nobody is left to click.
+// goes on comes in through the spin and ends it from inside. A close that is
+// pending ends it, too: a window that is to go cannot be paused again.
 void Pause_Click(Program& p)
 {
     SharedState& s = p.state;
@@ -326,19 +286,6 @@ void Act_Run(Program& p, int action)
         Panel_Open(p);
     plan->Work(p, action, count);
     Panel_Close(p);
-}
-
-int Act_Validate(Program& p)
-{
-    constexpr int good = 1, refused = 2;
-    const auto* check = std::ranges::find(modeChecks, p.state.RenMode, &ModeCheck::Mode);
-    if (check == std::end(modeChecks))
-        return good;
-    const std::string_view message = check->Refusal(p);
-    if (message.empty())
-        return good;
-    p.Say(std::string(message), BoxIcon::Information);
-    return refused;
 }
 
 void Act_Done(Program& p)

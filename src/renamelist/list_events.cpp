@@ -70,7 +70,7 @@ void List_KeyDown(Program& p, Key& key)
 {
     if (p.Busy())
         return;
-    if (key.Code == keyDelete && key.Shift == shiftNone) {
+    if (key.Code == keyDelete) {
         key.Code = keyNone;
         Ren_Delete_Ask(p);
     } else if (key.Shift == shiftCtrl && (key.Code == 'C' || key.Code == 'X')) {
@@ -110,7 +110,6 @@ void Ren_Delete_Ask(Program& p)
 {
     if (p.Busy())
         return;
-    p.state.DeleteChoice = 0;
     p.desktop.ShowModal(p.Delete());
     const auto* answer =
         std::ranges::find(deleteAnswers, p.state.DeleteChoice, &DeleteAnswer::Choice);

@@ -1,11 +1,10 @@
 #include "renamelist/act_run.h"
 
+#include "platform/posix/posix_files.h"
 #include "renamelist/executor.h"
-#include "renamelist/preview.h"
 #include "renamelist/rename_list.h"
-#include "support/list_ground.h"
-
-#include <gtest/gtest.h>
+#include "support/list_run.h"
+#include "support/temp_folder.h"
 
 #include <algorithm>
 
@@ -13,42 +12,11 @@ namespace tavo {
 
 namespace {
 
-using Flavour = MemoryDisk::Flavour;
 using Texts = std::vector<std::string>;
 
-// A list of files a.txt, b.txt ... in folder d, in Name & Number with a
-// template that gives each row a name of its own.
-class Run : public ::testing::TestWithParam<Flavour> {
-protected:
-    Run() : ground(GetParam()), p(ground.P), f(ground.Main), s(ground.P.state) {}
+class Run : public ListRun {};
 
-    void LoadRows(int count)
-    {
-        Texts paths;
-        for (int i = 0; i < count; ++i)
-            paths.push_back("d/" + std::string(1, static_cast<char>('a' + i)) + ".txt");
-        ground.Load(paths);
-        ground.SetTemplates("x<ON>", "<OE>");
-        ground.Desktop.Boxes.clear();
-    }
-
-    void SelectRows(const std::vector<int>& rows) { ground.Select(rows); }
-    std::string Stage() const { return f.lblActionInfo[0].Caption; }
-    std::string Label(int k) const { return f.lblAction[k].Caption; }
-    std::string Value(int k) const { return f.lblActionInfo[k].Caption; }
-    std::string ErrorsHeader() const { return ground.List.Column(s.colErrors).Caption; }
-
-    MemoryListGround ground;
-    Program& p;
-    FrmMain& f;
-    SharedState& s;
-};
-
-INSTANTIATE_TEST_SUITE_P(InBothDialects, Run,
-                         ::testing::Values(Flavour::Windows, Flavour::Posix),
-                         [](const auto& run) {
-                             return run.param == Flavour::Windows ? "Windows" : "Linux";
-                         });
+INSTANTIATE_TEST_SUITE_P(InBothDialects, Run, bothDialects, Dialect_Name);
 
 struct QuestionCase {
     const char* What;
@@ -391,7 +359,9 @@ TEST_P(Run, One_selected_row_runs_at_once_and_the_next_one_comes_up)
     s.AutoSelNext = 1;
     SelectRows({1});
     s.NameBoxFocus = nnName;
+    ShownRows shown(ground.List);
     Act_Run(p, actSelected);
+    EXPECT_EQ(shown.Last, 2);
     EXPECT_EQ(ground.Desktop.BoxTexts(), Texts{});
     EXPECT_EQ(s.CurScreen, screenRename);
     EXPECT_EQ(ground.Names(), (Texts{"xa.txt", "b.txt", "c.txt"}));
@@ -405,6 +375,24 @@ TEST_P(Run, One_selected_row_runs_at_once_and_the_next_one_comes_up)
     EXPECT_EQ(box.SelText(), "x<ON>");
     EXPECT_EQ(f.Caption(), "Tavo - Name & Number");
     EXPECT_FALSE(p.Busy());
+}
+
+TEST_P(Run, Return_in_a_box_renames_row_by_row_and_the_box_is_ready_for_the_next)
+{
+    LoadRows(3);
+    s.AutoSelNext = 1;
+    s.RetRename = 1;
+    SelectRows({1});
+    TextBox& box = f.txtNameNum[nnName];
+    box.SetFocus();
+    for (int row = 1; row <= 3; ++row) {
+        box.Select(2, 0);
+        f.PersonKey(&box, Key{keyReturn, shiftNone, 13});
+        EXPECT_EQ(box.SelText(), row < 3 ? "x<ON>" : "") << row;
+        EXPECT_TRUE(box.HasFocus());
+    }
+    EXPECT_EQ(ground.Names(), (Texts{"xa.txt", "xb.txt", "xc.txt"}));
+    EXPECT_EQ(ground.Desktop.BoxTexts(), Texts{});
 }
 
 TEST_P(Run, The_extension_box_gets_the_focus_back_when_it_had_it_last)
@@ -479,197 +467,6 @@ TEST_P(Run, Without_a_selected_row_nothing_is_renamed)
     EXPECT_EQ(s.CurScreen, screenRename);
 }
 
-// -- Cancel and pause.
-
-namespace {
-
-// The turn within the run at which the first row has just been renamed.
-int FirstRowTurn(MemoryListGround& ground)
-{
-    int turn = 0, found = 0;
-    ground.Desktop.EachTurn = [&](int) {
-        ++turn;
-        if (found == 0 && !ground.Cell(1, "UndoName").empty())
-            found = turn;
-    };
-    Act_Run(ground.P, actAll);
-    ground.Desktop.EachTurn = nullptr;
-    return found;
-}
-
-} // namespace
-
-TEST_P(Run, Cancel_stops_behind_the_row_in_progress_and_keeps_what_was_done)
-{
-    LoadRows(4);
-    s.SupWarnRen = 1;
-    MemoryListGround rehearsal(GetParam());
-    rehearsal.Load({"d/a.txt", "d/b.txt", "d/c.txt", "d/d.txt"});
-    rehearsal.SetTemplates("x<ON>", "<OE>");
-    rehearsal.P.state.SupWarnRen = 1;
-    ground.During(FirstRowTurn(rehearsal), [&] { f.cmdActCancel.PersonClick(); });
-    Act_Run(p, actAll);
-    EXPECT_EQ(ground.Names(), (Texts{"xa.txt", "b.txt", "c.txt", "d.txt"}));
-    EXPECT_EQ(ground.Column("UndoName"), (Texts{"a.txt", "", "", ""}));
-    EXPECT_EQ(Value(1), "1");
-    EXPECT_EQ(Stage(), "Finished! Click Done to Continue...");
-    EXPECT_EQ(s.LastRows, 4);
-}
-
-TEST_P(Run, Escape_cancels_as_well)
-{
-    LoadRows(4);
-    s.SupWarnRen = 1;
-    ground.Desktop.EachTurn = [&](int) {
-        if (!ground.Cell(2, "UndoName").empty())
-            f.PersonKey(nullptr, Key{keyEscape, shiftNone, 0});
-    };
-    Act_Run(p, actAll);
-    ground.Desktop.EachTurn = nullptr;
-    EXPECT_EQ(ground.Names(), (Texts{"xa.txt", "xb.txt", "c.txt", "d.txt"}));
-}
-
-TEST_P(Run, A_run_starts_afresh_after_a_cancelled_one)
-{
-    LoadRows(2);
-    s.SupWarnRen = 1;
-    s.ActCancel = true;
-    s.ActPaused = true;
-    Act_Run(p, actAll);
-    EXPECT_EQ(ground.Names(), (Texts{"xa.txt", "xb.txt"}));
-    EXPECT_FALSE(s.ActPaused);
-}
-
-namespace {
-
-// Presses Pause when the second row is done, and then runs `spin` at each turn
-// of the pause, with the number of the turn within it.
-struct PauseScript {
-    PauseScript(MemoryListGround& ground, std::function<void(int)> spin)
-    {
-        ground.Desktop.EachTurn = [this, &ground](int) {
-            if (!Pressed && !ground.Cell(2, "UndoName").empty()) {
-                Pressed = true;
-                ground.During(1, [this, &ground] { Next(ground); });
-                ground.Main.cmdActPause.PersonClick();
-                Over = true;
-            }
-        };
-        Spin = std::move(spin);
-    }
-
-    void Next(MemoryListGround& ground)
-    {
-        if (Over)
-            return;
-        ++Turns;
-        ground.During(1, [this, &ground] { Next(ground); });
-        Spin(Turns);
-    }
-
-    bool Pressed = false, Over = false;
-    int Turns = 0;
-    std::function<void(int)> Spin;
-};
-
-} // namespace
-
-TEST_P(Run, A_pause_suspends_the_walk_until_the_second_click)
-{
-    LoadRows(4);
-    s.SupWarnRen = 1;
-    std::string stageBefore;
-    ground.SetTemplates("<#>", "<OE>");
-    PauseScript script(ground, [&](int turn) {
-        EXPECT_EQ(f.cmdActPause.Caption.Get(), "Continue");
-        EXPECT_EQ(Stage(), "Paused... Press Continue to Restart");
-        EXPECT_EQ(s.ActSavedInfo, "Numbering Files...");
-        EXPECT_TRUE(s.ActPaused);
-        EXPECT_EQ(ground.Names(), (Texts{"1.txt", "2.txt", "c.txt", "d.txt"}));
-        if (turn == 100) {
-            f.cmdActPause.PersonClick();
-            EXPECT_FALSE(s.ActPaused);
-            EXPECT_EQ(f.cmdActPause.Caption.Get(), "&Pause");
-            EXPECT_EQ(Stage(), "Numbering Files...");
-        }
-    });
-    Act_Run(p, actAll);
-    EXPECT_EQ(script.Turns, 100);
-    EXPECT_EQ(ground.Names(), (Texts{"1.txt", "2.txt", "3.txt", "4.txt"}));
-}
-
-TEST_P(Run, Cancel_ends_a_pause_and_the_walk)
-{
-    LoadRows(4);
-    s.SupWarnRen = 1;
-    PauseScript script(ground, [&](int turn) {
-        if (turn == 3)
-            f.cmdActCancel.PersonClick();
-    });
-    Act_Run(p, actAll);
-    EXPECT_EQ(script.Turns, 3);
-    EXPECT_EQ(ground.Names(), (Texts{"xa.txt", "xb.txt", "c.txt", "d.txt"}));
-    EXPECT_EQ(Stage(), "Finished! Click Done to Continue...");
-    EXPECT_FALSE(s.ActPaused);
-
-    // The next run has its button back.
-    ground.Desktop.EachTurn = nullptr;
-    Act_Done(p);
-    Act_Run(p, actAll);
-    EXPECT_EQ(f.cmdActPause.Caption.Get(), "&Pause");
-}
-
-TEST_P(Run, Escape_in_a_pause_takes_effect_when_the_pause_ends)
-{
-    LoadRows(4);
-    s.SupWarnRen = 1;
-    PauseScript script(ground, [&](int turn) {
-        if (turn == 2)
-            f.PersonKey(nullptr, Key{keyEscape, shiftNone, 0});
-        EXPECT_TRUE(s.ActPaused);
-        if (turn == 5)
-            f.cmdActPause.PersonClick();
-    });
-    Act_Run(p, actAll);
-    EXPECT_EQ(script.Turns, 5);
-    EXPECT_EQ(ground.Names(), (Texts{"xa.txt", "xb.txt", "c.txt", "d.txt"}));
-}
-
-TEST_P(Run, Closing_the_window_in_a_pause_ends_both)
-{
-    LoadRows(4);
-    s.SupWarnRen = 1;
-    PauseScript script(ground, [&](int turn) {
-        if (turn == 2)
-            f.PersonClose();
-    });
-    Act_Run(p, actAll);
-    EXPECT_EQ(script.Turns, 2);
-    EXPECT_EQ(ground.Names(), (Texts{"xa.txt", "xb.txt", "c.txt", "d.txt"}));
-    EXPECT_TRUE(p.ClosePending);
-    EXPECT_TRUE(f.Loaded());
-    p.Settle();
-    EXPECT_FALSE(f.Loaded());
-}
-
-TEST_P(Run, Pausing_again_and_again)
-{
-    LoadRows(4);
-    s.SupWarnRen = 1;
-    int pauses = 0;
-    ground.Desktop.EachTurn = [&](int) {
-        if (p.Busy() && s.CurScreen == screenAction && pauses < 6) {
-            ++pauses;
-            ground.During(1, [&] { f.cmdActPause.PersonClick(); });
-            f.cmdActPause.PersonClick();
-        }
-    };
-    Act_Run(p, actAll);
-    ground.Desktop.EachTurn = nullptr;
-    EXPECT_EQ(pauses, 6);
-    EXPECT_EQ(ground.Names(), (Texts{"xa.txt", "xb.txt", "xc.txt", "xd.txt"}));
-}
-
 // -- What a run keeps out.
 
 TEST_P(Run, Nothing_that_works_on_the_list_starts_inside_a_run)
@@ -734,93 +531,35 @@ TEST_P(Run, The_list_emptied_by_a_run_falls_back_to_the_empty_state)
     EXPECT_TRUE(ground.Disk.Has(ground.Full("d/a.txt")));
 }
 
-// -- The check of a mode's input.
-
-namespace {
-
-struct ValidateCase {
-    const char* What;
-    int Mode;
-    std::function<void(MemoryListGround&)> Prepare;
-    const char* Message; // "" for good
-};
-
-const ValidateCase validateCases[] = {
-    {"attributes", modeAttributes, nullptr, ""},
-    {"case", modeCase, nullptr, ""},
-    {"date", modeDateTime, nullptr, ""},
-    {"numbers", modeNameNumber, nullptr, ""},
-    {"empty text to find", modeSearchReplace, [](auto& g) { g.P.state.srType = 1; },
-     "Nothing to Find!"},
-    {"text to find", modeSearchReplace,
-     [](auto& g) {
-         g.P.state.srType = 1;
-         g.Main.txtSearchFind.Text = "x";
-     },
-     ""},
-    {"a range needs no text", modeSearchReplace, [](auto& g) { g.P.state.srType = 2; }, ""},
-    {"no destination", modeMoveCopy, [](auto& g) { g.P.state.mcdMode = 1; },
-     "There is No Destination Path!"},
-    {"a destination that is none", modeMoveCopy,
-     [](auto& g) {
-         g.P.state.mcdMode = 2;
-         g.Main.txtmcdPath.Text = g.Full("nowhere");
-     },
-     "The Destination Path Appears to be Invalid!"},
-    {"a file is no destination", modeMoveCopy,
-     [](auto& g) {
-         g.P.state.mcdMode = 1;
-         g.AddFile("d/file");
-         g.Main.txtmcdPath.Text = g.Full("d/file");
-     },
-     "The Destination Path Appears to be Invalid!"},
-    {"a destination", modeMoveCopy,
-     [](auto& g) {
-         g.P.state.mcdMode = 1;
-         g.Main.txtmcdPath.Text = g.Full("app");
-     },
-     ""},
-    {"a destination with its slash", modeMoveCopy,
-     [](auto& g) {
-         g.P.state.mcdMode = 1;
-         g.Main.txtmcdPath.Text = g.Full("app/");
-     },
-     ""},
-    {"kind 3 needs no destination", modeMoveCopy, [](auto& g) { g.P.state.mcdMode = 3; }, ""},
-    {"nothing checked", modeMp3Tag,
-     [](auto& g) {
-         for (const auto& box : g.Main.chkMP3)
-             box->Value = 0;
-     },
-     "Check an Item to Update!"},
-    {"the last one checked", modeMp3Tag,
-     [](auto& g) {
-         for (const auto& box : g.Main.chkMP3)
-             box->Value = 0;
-         g.Main.chkMP3[7].Value = 1;
-     },
-     ""},
-};
-
-} // namespace
-
-TEST_P(Run, Validate_looks_at_the_input_of_the_mode)
+TEST(RunOnDisk, What_has_happened_since_the_load_ends_in_its_own_row)
 {
-    for (const ValidateCase& test : validateCases) {
-        SCOPED_TRACE(test.What);
-        MemoryListGround one(GetParam());
-        one.P.state.RenMode = static_cast<std::int16_t>(test.Mode);
-        if (test.Prepare)
-            test.Prepare(one);
-        const std::string message = test.Message;
-        EXPECT_EQ(Act_Validate(one.P), message.empty() ? 1 : 2);
-        EXPECT_EQ(one.Desktop.BoxTexts(), message.empty() ? Texts{} : Texts{message});
-        for (const auto& shown : one.Desktop.Boxes) {
-            EXPECT_EQ(shown.Box.Icon, BoxIcon::Information);
-            EXPECT_EQ(shown.Box.Buttons, BoxButtons::Ok);
-            EXPECT_EQ(shown.Box.Caption, "Tavo Says...");
-        }
+    TempFolder folder("act_run");
+    PosixFiles disk;
+    ListGround ground(disk, folder.Path());
+    Texts paths;
+    for (const char* name : {"a.txt", "b.txt", "c.txt", "d.txt", "e.txt"}) {
+        folder.Write(name, name);
+        paths.push_back(folder.Path(name));
     }
+    Ren_List_FromDrop(ground.P, paths);
+    ground.SetTemplates("new_<#>", "<OE>");
+    ground.P.state.SupWarnRen = 1;
+    folder.Remove("b.txt");
+    folder.Write("new_3.txt", "another program's");
+    folder.Remove("e.txt");
+    folder.MakeFolder("e.txt");
+
+    Act_Run(ground.P, actAll);
+
+    EXPECT_EQ(ground.Names(), (Texts{"new_1.txt", "b.txt", "new_2.txt", "d.txt", "e.txt"}));
+    EXPECT_EQ(ground.Column("Errors"),
+              (Texts{"", "Missing", "", "Name Conflict", "Name Conflict"}));
+    EXPECT_EQ(ground.Column("UndoName"), (Texts{"a.txt", "", "c.txt", "", ""}));
+    EXPECT_EQ(folder.Names(),
+              (Texts{"d.txt", "e.txt", "new_1.txt", "new_2.txt", "new_3.txt"}));
+    EXPECT_EQ(folder.Read("new_1.txt"), "a.txt");
+    EXPECT_EQ(folder.Read("new_2.txt"), "c.txt");
+    EXPECT_EQ(folder.Read("new_3.txt"), "another program's");
 }
 
 } // namespace tavo

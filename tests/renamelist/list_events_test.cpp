@@ -1,21 +1,16 @@
 #include "renamelist/rename_list.h"
 
 #include "fileactions/frm_delete.h"
-#include "support/list_ground.h"
-
-#include <gtest/gtest.h>
+#include "support/list_run.h"
 
 namespace tavo {
 
 namespace {
 
-using Flavour = MemoryDisk::Flavour;
 using Texts = std::vector<std::string>;
 
-class Events : public ::testing::TestWithParam<Flavour> {
+class Events : public ListRun {
 protected:
-    Events() : ground(GetParam()), p(ground.P), f(ground.Main), s(ground.P.state) {}
-
     void Press(const char* name)
     {
         Key key;
@@ -34,18 +29,9 @@ protected:
                 dialog.cmdRemove[button].PersonClick();
         });
     }
-
-    MemoryListGround ground;
-    Program& p;
-    FrmMain& f;
-    SharedState& s;
 };
 
-INSTANTIATE_TEST_SUITE_P(InBothDialects, Events,
-                         ::testing::Values(Flavour::Windows, Flavour::Posix),
-                         [](const auto& run) {
-                             return run.param == Flavour::Windows ? "Windows" : "Linux";
-                         });
+INSTANTIATE_TEST_SUITE_P(InBothDialects, Events, bothDialects, Dialect_Name);
 
 } // namespace
 

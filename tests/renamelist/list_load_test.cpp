@@ -2,23 +2,18 @@
 
 #include "core/screens.h"
 #include "platform/posix/posix_files.h"
-#include "support/list_ground.h"
+#include "support/list_run.h"
 #include "support/memory_clock.h"
 #include "support/temp_folder.h"
-
-#include <gtest/gtest.h>
 
 namespace tavo {
 
 namespace {
 
-using Flavour = MemoryDisk::Flavour;
 using Texts = std::vector<std::string>;
 
-class Load : public ::testing::TestWithParam<Flavour> {
+class Load : public ListRun {
 protected:
-    Load() : ground(GetParam()), p(ground.P), f(ground.Main), s(ground.P.state) {}
-
     // Fills the selection list; the rows of these positions are selected.
     void FillSource(const Texts& names, const std::vector<int>& selected)
     {
@@ -31,18 +26,9 @@ protected:
         for (const int row : selected)
             f.lsvSelMain.SetSelected(row, true);
     }
-
-    MemoryListGround ground;
-    Program& p;
-    FrmMain& f;
-    SharedState& s;
 };
 
-INSTANTIATE_TEST_SUITE_P(InBothDialects, Load,
-                         ::testing::Values(Flavour::Windows, Flavour::Posix),
-                         [](const auto& run) {
-                             return run.param == Flavour::Windows ? "Windows" : "Linux";
-                         });
+INSTANTIATE_TEST_SUITE_P(InBothDialects, Load, bothDialects, Dialect_Name);
 
 } // namespace
 
@@ -50,14 +36,15 @@ INSTANTIATE_TEST_SUITE_P(InBothDialects, Load,
 
 TEST_P(Load, A_selected_row_is_copied_cell_by_cell)
 {
-    const std::string_view cells[] = {"Song.One.MP3", ground.Full("a b/"), "     1,234KB", "MP3",
+    const std::string path = ground.Full("a b/");
+    const std::string_view cells[] = {"Song.One.MP3", path, "     1,234KB", "MP3",
                                       "12/31/1999 11:59 PM"};
     f.lsvSelMain.AddRow(cells, 5, "M");
     f.lsvSelMain.SetTag(1, "7");
     f.lsvSelMain.SetSelected(1, true);
     Ren_List_FromSelection(p, f.lsvSelMain);
     EXPECT_EQ(ground.Cell(1, "Name"), "Song.One.MP3");
-    EXPECT_EQ(ground.Cell(1, "Path"), ground.Full("a b/"));
+    EXPECT_EQ(ground.Cell(1, "Path"), path);
     EXPECT_EQ(ground.Cell(1, "Size"), "     1,234KB");
     EXPECT_EQ(ground.Cell(1, "Type"), "mp3");
     EXPECT_EQ(ground.Cell(1, "Modified"), "12/31/1999 11:59 PM");
@@ -167,10 +154,12 @@ TEST_P(Load, An_earlier_cancel_does_not_reach_a_load)
     FillSource({"a", "b"}, {1, 2});
     s.ActCancel = true;
     s.ActReady = false;
+    bool ready = false;
+    ground.During(1, [&] { ready = s.ActReady; });
     Ren_List_FromSelection(p, f.lsvSelMain);
     EXPECT_EQ(ground.List.Count(), 2);
     EXPECT_FALSE(s.ActCancel);
-    EXPECT_TRUE(s.ActReady);
+    EXPECT_TRUE(ready);
 }
 
 TEST_P(Load, A_new_list_takes_the_place_of_the_old_one_with_all_its_undo_data)
@@ -204,9 +193,20 @@ TEST_P(Load, A_mode_that_is_none_falls_back_to_Name_and_Number)
 TEST_P(Load, The_boxes_are_filled_from_the_first_row_with_Auto_Fill)
 {
     s.nnAutoFill = 1;
+    s.ProExt = 0;
     ground.Load({"d/b.txt", "d/a.jpg"});
     EXPECT_EQ(f.txtNameNum[nnName].Text.Get(), "a");
     EXPECT_EQ(f.txtNameNum[nnExt].Text.Get(), "jpg");
+}
+
+TEST_P(Load, The_first_row_alone_is_selected_and_in_view)
+{
+    ShownRows shown(ground.List);
+    ground.During(2, [&] { ground.List.SetAllSelected(true); });
+    ground.Load({"d/c", "d/b", "d/a"});
+    EXPECT_EQ(ground.SelectedNames(), (Texts{"a"}));
+    EXPECT_EQ(ground.List.SelectedItem(), 1);
+    EXPECT_EQ(shown.Last, 1);
 }
 
 // -- Create.

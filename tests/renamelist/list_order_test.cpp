@@ -1,8 +1,6 @@
 #include "renamelist/rename_list.h"
 
-#include "support/list_ground.h"
-
-#include <gtest/gtest.h>
+#include "support/list_run.h"
 
 #include <algorithm>
 #include <random>
@@ -11,13 +9,10 @@ namespace tavo {
 
 namespace {
 
-using Flavour = MemoryDisk::Flavour;
 using Texts = std::vector<std::string>;
 
-class Order : public ::testing::TestWithParam<Flavour> {
+class Order : public ListRun {
 protected:
-    Order() : ground(GetParam()), p(ground.P), f(ground.Main), s(ground.P.state) {}
-
     // Rows a, b, c ... without files behind them.
     void LoadRows(int count)
     {
@@ -56,18 +51,9 @@ protected:
     }
 
     void Sort(const char* key) { Ren_List_Sort(p, ground.List, ground.List.ColumnByKey(key)); }
-
-    MemoryListGround ground;
-    Program& p;
-    FrmMain& f;
-    SharedState& s;
 };
 
-INSTANTIATE_TEST_SUITE_P(InBothDialects, Order,
-                         ::testing::Values(Flavour::Windows, Flavour::Posix),
-                         [](const auto& run) {
-                             return run.param == Flavour::Windows ? "Windows" : "Linux";
-                         });
+INSTANTIATE_TEST_SUITE_P(InBothDialects, Order, bothDialects, Dialect_Name);
 
 } // namespace
 
@@ -208,6 +194,23 @@ TEST_P(Order, The_selection_goes_along_with_a_sort)
     EXPECT_EQ(ground.List.SelectedItem(), 2);
 }
 
+TEST_P(Order, The_row_in_hand_stays_in_view)
+{
+    LoadRows(5);
+    ground.ToolOf("ID_SelDistance").Box->Text.SetQuietly("2");
+    ground.Select({4});
+    ShownRows shown(ground.List);
+    Sort("Name");
+    EXPECT_EQ(shown.Last, 2);
+    Ren_List_Arrange(p, "Up");
+    EXPECT_EQ(shown.Last, 4);
+    Ren_List_Arrange(p, "Down");
+    EXPECT_EQ(shown.Last, 2);
+    ground.Select({1, 2, 5});
+    Ren_List_Arrange(p, "Group");
+    EXPECT_EQ(shown.Last, 3);
+}
+
 // -- Moving.
 
 namespace {
@@ -229,7 +232,7 @@ const MoveCase moveCases[] = {
     {"block down, held to its shape", 7, {3, 4, 5}, 5, true, "abfgcde", "cde"},
     {"spread rows down, held to their shape", 7, {1, 3, 5}, 5, true, "bdafcge", "ace"},
     {"block up, held to its shape", 7, {3, 4, 5}, 5, false, "cdeabfg", "cde"},
-    {"spread rows up, held to their shape", 7, {3, 5, 7}, 5, false, "cbeagdf", "ceg"},
+    {"spread rows up, held to their shape", 7, {3, 5, 7}, 5, false, "caebgdf", "ceg"},
     {"last row down", 3, {3}, 1, true, "abc", "c"},
     {"first row up", 3, {1}, 1, false, "abc", "a"},
     {"last row among others holds them all", 4, {2, 4}, 2, true, "abcd", "bd"},

@@ -2,36 +2,19 @@
 
 #include "platform/posix/posix_files.h"
 #include "renamelist/act_run.h"
-#include "support/list_ground.h"
+#include "support/list_run.h"
 #include "support/memory_clock.h"
 #include "support/temp_folder.h"
-
-#include <gtest/gtest.h>
 
 namespace tavo {
 
 namespace {
 
-using Flavour = MemoryDisk::Flavour;
 using Texts = std::vector<std::string>;
 
-class Refresh : public ::testing::TestWithParam<Flavour> {
-protected:
-    Refresh() : ground(GetParam()), p(ground.P), f(ground.Main), s(ground.P.state) {}
+class Refresh : public ListRun {};
 
-    std::string Value(int k) const { return f.lblActionInfo[k].Caption; }
-
-    MemoryListGround ground;
-    Program& p;
-    FrmMain& f;
-    SharedState& s;
-};
-
-INSTANTIATE_TEST_SUITE_P(InBothDialects, Refresh,
-                         ::testing::Values(Flavour::Windows, Flavour::Posix),
-                         [](const auto& run) {
-                             return run.param == Flavour::Windows ? "Windows" : "Linux";
-                         });
+INSTANTIATE_TEST_SUITE_P(InBothDialects, Refresh, bothDialects, Dialect_Name);
 
 struct SizeCase {
     std::uint64_t Bytes;

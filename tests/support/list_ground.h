@@ -13,8 +13,8 @@
 
 namespace tavo {
 
-// A started program with an empty rename screen, and a scripted person before
-// it: ground for tests of what happens to the rename list.
+// A started program with an empty rename screen, Auto Fill off, and a scripted
+// person before it: ground for tests of what happens to the rename list.
 class ListGround {
 public:
     ListGround(Files& files, const std::string& appFolder);
@@ -46,6 +46,33 @@ public:
     Tool& ToolOf(std::string_view id) const;
     // Templates of Name & Number.
     void SetTemplates(const std::string& name, const std::string& extension);
+};
+
+// Hears which rows a list asks its host to bring into view.
+class ShownRows : public ListObserver {
+public:
+    explicit ShownRows(ListView& list) : list_(list) { list_.SetObserver(this); }
+    ~ShownRows() override { list_.SetObserver(nullptr); }
+    ShownRows(const ShownRows&) = delete;
+    ShownRows& operator=(const ShownRows&) = delete;
+
+    // The last one; 0 for none.
+    int Last = 0;
+
+    void BeginInsert(int, int) override {}
+    void EndInsert() override {}
+    void BeginRemove(int, int) override {}
+    void EndRemove() override {}
+    void BeginReset() override {}
+    void EndReset() override {}
+    void CellsChanged(int, int) override {}
+    void SelectionChanged(int, int) override {}
+    void SelectedItemChanged() override {}
+    void ColumnsChanged() override {}
+    void ShowRow(int position) override { Last = position; }
+
+private:
+    ListView& list_;
 };
 
 // A disk in memory made ready before the program that stands on it.

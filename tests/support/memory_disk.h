@@ -15,8 +15,8 @@ namespace tavo {
 // the case they were given, lose dots and blanks at their end and may be no
 // device, wildcards honoured by an existence test. Posix: one root, exact
 // names that may hold anything but a slash. PosixCaseBlind: the same with names
-// blind to case, as on a stick in a Linux machine. Text is UTF-8 in all of
-// them.
+// blind to case, as on a stick in a Linux machine, of which Rules() says
+// nothing. Text is UTF-8 in all of them.
 //
 // What tests do to the disk (the upper half of the class) is no call of the
 // port: it is not counted and cannot fail by a wish.

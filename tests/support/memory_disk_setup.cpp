@@ -9,17 +9,26 @@ namespace tavo {
 
 namespace {
 
+// What the program is told.
 PathRules Rules_Of(MemoryDisk::Flavour flavour)
 {
     PathRules rules = flavour == MemoryDisk::Flavour::Windows ? WindowsRules() : PosixRules();
-    rules.CaseBlind = flavour != MemoryDisk::Flavour::Posix;
     rules.Utf8 = true;
+    return rules;
+}
+
+// What the disk goes by. A stick in a Linux machine is blind to case, and
+// nobody knows.
+PathRules TreeRules_Of(MemoryDisk::Flavour flavour)
+{
+    PathRules rules = Rules_Of(flavour);
+    rules.CaseBlind = flavour != MemoryDisk::Flavour::Posix;
     return rules;
 }
 
 } // namespace
 
-MemoryDisk::MemoryDisk(Flavour flavour) : rules_(Rules_Of(flavour)), tree_(rules_)
+MemoryDisk::MemoryDisk(Flavour flavour) : rules_(Rules_Of(flavour)), tree_(TreeRules_Of(flavour))
 {
     tree_.AddRoot(IsWindows() ? "C:" : "");
     specialFolders_[SpecialFolder::Home] = IsWindows() ? "C:\\Users\\me\\" : "/home/me/";

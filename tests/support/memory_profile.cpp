@@ -4,7 +4,7 @@ namespace tavo {
 
 void MemoryProfile::SetText(const std::string& file, const std::string& bytes)
 {
-    files_[file] = {bytes, ProfileText(bytes)};
+    files_[file] = {bytes, ProfileText(bytes, dialect_)};
 }
 
 void MemoryProfile::Remove(const std::string& file)
@@ -26,10 +26,29 @@ std::string MemoryProfile::GetPrivateProfileStringA(const std::string& section,
                                                     const std::string& file)
 {
     ++calls_;
+    return CollectingProfile::GetPrivateProfileStringA(section, std::move(key), fallback, size,
+                                                       file);
+}
+
+const ProfileText& MemoryProfile::TextOf(const std::string& file)
+{
     const auto known = files_.find(file);
-    const ProfileText nothing;
-    const ProfileText& text = known == files_.end() ? nothing : known->second.Parsed;
-    return ProfileAnswer(text, section, key, fallback, size);
+    return known == files_.end() ? nothing_ : known->second.Parsed;
+}
+
+bool MemoryProfile::Apply(const std::string& file, const std::vector<ProfileChange>& changes)
+{
+    ProfileText text = TextOf(file);
+    for (const ProfileChange& change : changes)
+        text.Write(change);
+    const std::string bytes = text.Bytes();
+    if (bytes == Text(file).value_or(""))
+        return true;
+    if (refusesWrites_)
+        return false;
+    SetText(file, bytes);
+    ++saves_;
+    return true;
 }
 
 } // namespace tavo

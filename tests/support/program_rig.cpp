@@ -25,7 +25,9 @@ std::vector<std::string> List_Column(const ListView& list, const std::string& ke
 }
 
 ProgramRig::ProgramRig(MemoryDisk::Flavour flavour)
-    : AppFolder(flavour == MemoryDisk::Flavour::Windows ? "C:\\app\\" : "/app/"), Disk(flavour)
+    : AppFolder(flavour == MemoryDisk::Flavour::Windows ? "C:\\app\\" : "/app/"), Disk(flavour),
+      Profile(flavour == MemoryDisk::Flavour::Windows ? ProfileDialect::Windows
+                                                      : ProfileDialect::Linux)
 {
     Disk.AddFolder(AppFolder);
 }

@@ -121,6 +121,12 @@ bool TempFolder::Has(const std::string& name) const
     return ::lstat(Path(name).c_str(), &data) == 0;
 }
 
+bool TempFolder::IsFolder(const std::string& name) const
+{
+    struct stat data;
+    return ::lstat(Path(name).c_str(), &data) == 0 && S_ISDIR(data.st_mode);
+}
+
 std::vector<std::string> TempFolder::Names(const std::string& below) const
 {
     std::vector<std::string> names;

@@ -36,6 +36,8 @@ public:
     std::string LinkTarget(const std::string& name) const;
     // Is there an entry, even if it is a link to nowhere?
     bool Has(const std::string& name) const;
+    // Is it a folder, and no link to one?
+    bool IsFolder(const std::string& name) const;
     // What the folder (or one below it) holds, in byte order.
     std::vector<std::string> Names(const std::string& below = {}) const;
 
