@@ -1,0 +1,130 @@
+#include "hosts/qt/form_window.h"
+
+#include "hosts/qt/binder.h"
+#include "hosts/qt/qt_text.h"
+
+#include <QCloseEvent>
+#include <QScopedValueRollback>
+#include <QWidget>
+
+#include <cmath>
+
+namespace tavo {
+
+namespace {
+
+int Pixels(double twips)
+{
+    return static_cast<int>(std::lround(twips / twipsPerPixel));
+}
+
+QRect Place_Of(const Form& form)
+{
+    return {Pixels(form.Left()), Pixels(form.Top()), Pixels(form.Width()), Pixels(form.Height())};
+}
+
+WindowState State_Of(const QWidget& window)
+{
+    if (window.isMinimized())
+        return WindowState::Minimised;
+    return window.isMaximized() || window.isFullScreen() ? WindowState::Maximised
+                                                         : WindowState::Normal;
+}
+
+} // namespace
+
+FormWindow::FormWindow(Form& form, QWidget& window, FrameQueue& queue)
+    : QObject(&window), form_(form), window_(window), shown_(Place_Of(form))
+{
+    window.setObjectName(ToQt(form.Name()));
+    window.resize(shown_.size());
+    window.installEventFilter(this);
+    unloaded_ = form.Unloaded.Listen([&window] { window.hide(); });
+    new Binding(queue, window, form.Changed,
+                [this](const PropSet& changed) { Show(changed); });
+}
+
+void FormWindow::Show(const PropSet& changed)
+{
+    const QScopedValueRollback<bool> taking(taking_, true);
+    if (changed.Has({Prop::Caption}))
+        window_.setWindowTitle(ToQt(form_.Caption()));
+    if (changed.Has({Prop::Geometry}))
+        ShowPlace();
+    if (changed.Has({Prop::State}) && form_.State() != State_Of(window_)) {
+        const bool big = form_.State() == WindowState::Maximised;
+        const bool small = form_.State() == WindowState::Minimised;
+        window_.setWindowState(big     ? Qt::WindowMaximized
+                               : small ? Qt::WindowMinimized
+                                       : Qt::WindowNoState);
+    }
+}
+
+// Only what the program itself has changed: where a window comes up is left to
+// the window manager as long as nobody says anything else.
+void FormWindow::ShowPlace()
+{
+    const QRect place = Place_Of(form_);
+    if (place.size() != shown_.size() && place.size() != window_.size())
+        window_.resize(place.size());
+    if (place.topLeft() != shown_.topLeft() && place.topLeft() != window_.pos())
+        window_.move(place.topLeft());
+    shown_ = place;
+}
+
+void FormWindow::TellInside(int width, int height)
+{
+    const double outerWidth = window_.width() * twipsPerPixel;
+    const double outerHeight = window_.height() * twipsPerPixel;
+    form_.SetFrame(outerWidth - width * twipsPerPixel, outerHeight - height * twipsPerPixel);
+}
+
+void FormWindow::TellPlace()
+{
+    if (taking_ || !window_.isVisible() || window_.isMinimized())
+        return;
+    const QScopedValueRollback<bool> taking(taking_, true);
+    form_.PersonMove(window_.x() * twipsPerPixel, window_.y() * twipsPerPixel);
+    form_.PersonResize(window_.width() * twipsPerPixel, window_.height() * twipsPerPixel);
+    shown_ = Place_Of(form_);
+}
+
+void FormWindow::TellState()
+{
+    if (!taking_)
+        form_.PersonState(State_Of(window_));
+}
+
+// A form may keep itself, or be busy and go later.
+bool FormWindow::StaysOpen()
+{
+    if (form_.Loaded())
+        form_.PersonClose();
+    return form_.Loaded();
+}
+
+bool FormWindow::eventFilter(QObject*, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+        TellPlace();
+        return false;
+    case QEvent::WindowStateChange:
+        TellState();
+        return false;
+    case QEvent::WindowActivate:
+    case QEvent::WindowDeactivate:
+        form_.PersonActivate(event->type() == QEvent::WindowActivate);
+        return false;
+    case QEvent::Close:
+        if (!StaysOpen())
+            return false;
+        event->ignore();
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace tavo

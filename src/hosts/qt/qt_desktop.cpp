@@ -1,0 +1,290 @@
+#include "hosts/qt/qt_desktop.h"
+
+#include "hosts/qt/qt_text.h"
+#include "platform/posix/start_info.h"
+#include "toolkit/form.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QDrag>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QTimer>
+#include <QUrl>
+
+namespace tavo {
+
+namespace {
+
+constexpr double twipsPerPixelHere = 15;
+// The window stays as lively as a person can tell, and a fast run as fast.
+constexpr int turnMs = 10;
+
+struct IconRow {
+    BoxIcon Ours;
+    QMessageBox::Icon Qt;
+};
+
+constexpr IconRow icons[] = {
+    {BoxIcon::None, QMessageBox::NoIcon},
+    {BoxIcon::Critical, QMessageBox::Critical},
+    {BoxIcon::Question, QMessageBox::Question},
+    {BoxIcon::Exclamation, QMessageBox::Warning},
+    {BoxIcon::Information, QMessageBox::Information},
+};
+
+struct ButtonRow {
+    BoxButtons In;
+    BoxAnswer Answer;
+    QMessageBox::StandardButton Qt;
+};
+
+constexpr ButtonRow buttons[] = {
+    {BoxButtons::Ok, BoxAnswer::Ok, QMessageBox::Ok},
+    {BoxButtons::OkCancel, BoxAnswer::Ok, QMessageBox::Ok},
+    {BoxButtons::OkCancel, BoxAnswer::Cancel, QMessageBox::Cancel},
+    {BoxButtons::YesNo, BoxAnswer::Yes, QMessageBox::Yes},
+    {BoxButtons::YesNo, BoxAnswer::No, QMessageBox::No},
+};
+
+// What the box gives when it is closed without a choice.
+BoxAnswer Closed_Answer(const MessageBox& box)
+{
+    switch (box.Buttons) {
+    case BoxButtons::OkCancel:
+        return BoxAnswer::Cancel;
+    case BoxButtons::YesNo:
+        return BoxAnswer::No;
+    default:
+        return BoxAnswer::Ok;
+    }
+}
+
+void Fill(QMessageBox& shown, const MessageBox& box)
+{
+    shown.setTextFormat(Qt::PlainText);
+    shown.setText(ToQt(box.Text));
+    shown.setWindowTitle(ToQt(box.Caption));
+    for (const IconRow& row : icons)
+        if (row.Ours == box.Icon)
+            shown.setIcon(row.Qt);
+    for (const ButtonRow& row : buttons) {
+        if (row.In != box.Buttons)
+            continue;
+        QPushButton* button = shown.addButton(row.Qt);
+        if (row.Answer == box.Default || !shown.defaultButton())
+            shown.setDefaultButton(button);
+        if (row.Answer == Closed_Answer(box))
+            shown.setEscapeButton(button);
+    }
+}
+
+BoxAnswer Answer_Of(const MessageBox& box, QMessageBox::StandardButton pressed)
+{
+    for (const ButtonRow& row : buttons)
+        if (row.In == box.Buttons && row.Qt == pressed)
+            return row.Answer;
+    return Closed_Answer(box);
+}
+
+} // namespace
+
+void QtDesktop::AddWindow(Form& form, QWidget& window)
+{
+    windows_[&form] = &window;
+}
+
+void QtDesktop::AddDialog(const std::string& formName, DialogMaker make)
+{
+    dialogs_[formName] = std::move(make);
+}
+
+bool QtDesktop::TurnIsDue()
+{
+    if (sinceTurn_.isValid() && sinceTurn_.elapsed() < turnMs)
+        return false;
+    return true;
+}
+
+void QtDesktop::DoEvents()
+{
+    const bool paused = IsPaused && IsPaused();
+    if (!paused && !TurnIsDue())
+        return;
+    const QScopedValueRollback<int> inside(inside_, inside_ + 1);
+    if (paused) {
+        // Waits for the person, but looks again soon: a handler that runs
+        // above this one may end the pause without any event.
+        QTimer soon;
+        soon.start(turnMs);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    } else {
+        QCoreApplication::processEvents();
+    }
+    sinceTurn_.start();
+}
+
+void QtDesktop::StillAlive()
+{
+    if (!TurnIsDue())
+        return;
+    const QScopedValueRollback<int> inside(inside_, inside_ + 1);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    sinceTurn_.start();
+}
+
+QWidget* QtDesktop::FrontWindow() const
+{
+    if (QWidget* active = QApplication::activeModalWidget())
+        return active;
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    for (const auto& [form, window] : windows_)
+        if (window && window->isVisible())
+            return window;
+    return nullptr;
+}
+
+BoxAnswer QtDesktop::MsgBox(const MessageBox& box)
+{
+    const QScopedValueRollback<int> inside(inside_, inside_ + 1);
+    if (BeforeShowing)
+        BeforeShowing();
+    // What the pointer says of the program is not true of the box.
+    const bool busy = busyPointer_;
+    SetPointer(Pointer::Default);
+    QMessageBox shown(FrontWindow());
+    Fill(shown, box);
+    shown.exec();
+    SetPointer(busy ? Pointer::Busy : Pointer::Default);
+    return Answer_Of(box, shown.standardButton(shown.clickedButton()));
+}
+
+void QtDesktop::Show(Form& form)
+{
+    form.EnsureLoaded();
+    const auto window = windows_.find(&form);
+    if (!form.Loaded() || window == windows_.end() || !window->second)
+        return;
+    form.SetVisible(true);
+    if (BeforeShowing)
+        BeforeShowing();
+    window->second->show();
+}
+
+void QtDesktop::ShowModal(Form& form)
+{
+    const auto make = dialogs_.find(form.Name());
+    if (make == dialogs_.end())
+        return;
+    const QScopedValueRollback<int> inside(inside_, inside_ + 1);
+    if (BeforeShowing)
+        BeforeShowing();
+    const auto dialog = make->second(form, FrontWindow());
+    form.EnsureLoaded();
+    form.SetVisible(true);
+    if (form.Loaded())
+        dialog->exec();
+}
+
+void QtDesktop::SetForegroundWindow(Form& form)
+{
+    const auto window = windows_.find(&form);
+    if (window == windows_.end() || !window->second)
+        return;
+    window->second->raise();
+    window->second->activateWindow();
+}
+
+void QtDesktop::PopUpMenu(Tool& menu, int xTwips, int yTwips)
+{
+    if (OnPopUp)
+        OnPopUp(menu, xTwips, yTwips);
+}
+
+void QtDesktop::SetPointer(Pointer pointer)
+{
+    const bool busy = pointer == Pointer::Busy;
+    if (busy == busyPointer_)
+        return;
+    busyPointer_ = busy;
+    if (busy)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
+}
+
+double QtDesktop::ScreenWidth() const
+{
+    return QGuiApplication::primaryScreen()->size().width() * twipsPerPixelHere;
+}
+
+double QtDesktop::ScreenHeight() const
+{
+    return QGuiApplication::primaryScreen()->size().height() * twipsPerPixelHere;
+}
+
+std::string QtDesktop::ClipboardText()
+{
+    return FromQt(QGuiApplication::clipboard()->text());
+}
+
+void QtDesktop::SetClipboardText(const std::string& text)
+{
+    QGuiApplication::clipboard()->setText(ToQt(text));
+}
+
+bool QtDesktop::ShellExecuteA(const std::string&, const std::string& address, std::string& why)
+{
+    const bool path = address.starts_with('/');
+    if (path && !files_.Exists(address)) {
+        why = "There is no file " + address;
+        return false;
+    }
+    const std::string url = path ? Path_ToFileUrl(address) : address;
+    if (QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(url))))
+        return true;
+    why = "The desktop has no program that opens " + address;
+    return false;
+}
+
+bool QtDesktop::LoadPicture(const std::string& path, int& widthPixels, int& heightPixels)
+{
+    const QImage& image = pictures_.Read(path);
+    if (image.isNull())
+        return false;
+    widthPixels = image.width();
+    heightPixels = image.height();
+    return true;
+}
+
+SystemTime QtDesktop::Now()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate date = now.date();
+    const QTime time = now.time();
+    return {date.year(), date.month(),  date.dayOfWeek() % 7, date.day(),
+            time.hour(), time.minute(), time.second(),        time.msec()};
+}
+
+void QtDesktop::DragFiles(Control& source, const std::vector<std::string>& paths)
+{
+    const auto window = windows_.find(&source.Owner());
+    if (window == windows_.end() || !window->second)
+        return;
+    const QScopedValueRollback<int> inside(inside_, inside_ + 1);
+    auto* widget = window->second->findChild<QWidget*>(ToQt(source.FullName()));
+    auto* files = new QMimeData;
+    files->setData("text/uri-list", UriList_Of(paths));
+    auto* drag = new QDrag(widget ? widget : window->second.data());
+    drag->setMimeData(files);
+    drag->exec(Qt::CopyAction);
+}
+
+} // namespace tavo

@@ -1,0 +1,52 @@
+#include "hosts/qt/qt_host.h"
+
+#include "core/frm_main.h"
+#include "fileactions/frm_delete.h"
+#include "hosts/qt/delete_dialog.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+
+#include <cmath>
+
+namespace tavo {
+
+namespace {
+
+int Pixels(int twips)
+{
+    return static_cast<int>(std::lround(twips / twipsPerPixel));
+}
+
+} // namespace
+
+QtHost::QtHost(const StartInfo& info)
+    : desktop_(files_), program_(files_, profile_, desktop_, info),
+      window_(program_.main, desktop_.LoadedPictures())
+{
+    desktop_.AddWindow(program_.main, window_);
+    desktop_.AddDialog("frmDelete", [](Form& form, QWidget* owner) -> std::unique_ptr<QDialog> {
+        return std::make_unique<DeleteDialog>(dynamic_cast<FrmDelete&>(form), owner);
+    });
+    desktop_.IsPaused = [this] { return program_.state.ActPaused; };
+    desktop_.OnPopUp = [this](Tool& menu, int x, int y) {
+        window_.PopUp(menu, {Pixels(x), Pixels(y)});
+    };
+    desktop_.BeforeShowing = [this] { window_.Bound().Queue().Flush(); };
+    unloaded_ = program_.main.Unloaded.Listen([] { QCoreApplication::quit(); });
+    // When Qt is about to wait for events and no call of the program is under
+    // way, its commands have all come back.
+    QObject::connect(QAbstractEventDispatcher::instance(),
+                     &QAbstractEventDispatcher::aboutToBlock, &window_, [this] {
+                         if (!desktop_.IsInside())
+                             program_.Settle();
+                     });
+}
+
+bool QtHost::Start()
+{
+    program_.Start();
+    return program_.main.Loaded();
+}
+
+} // namespace tavo

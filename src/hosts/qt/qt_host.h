@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/program.h"
+#include "hosts/qt/main_window.h"
+#include "hosts/qt/qt_desktop.h"
+#include "platform/posix/posix_files.h"
+#include "platform/posix/posix_profile.h"
+
+namespace tavo {
+
+// One Tavo with its windows, on the disk of this machine.
+class QtHost {
+public:
+    explicit QtHost(const StartInfo& info);
+
+    // Loads and shows the main window; false when it is gone again already.
+    bool Start();
+
+    Program& Running() { return program_; }
+    MainWindow& Window() { return window_; }
+
+private:
+    PosixFiles files_;
+    PosixProfile profile_;
+    QtDesktop desktop_;
+    Program program_;
+    MainWindow window_;
+    Connection unloaded_;
+};
+
+} // namespace tavo

@@ -1,0 +1,176 @@
+#include "window/person.h"
+
+#include "core/commands.h"
+#include "hosts/qt/binding.h"
+#include "hosts/qt/icons.h"
+#include "hosts/qt/list_page.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QTableView>
+
+#include <cmath>
+
+namespace tavo {
+
+namespace {
+
+const QPalette lightColours(QColor("#dddddd"), QColor("#efefef"));
+const QPalette darkColours(QColor("#303030"), QColor("#202020"));
+
+// Puts a palette in force, and the one before back.
+class Colours_Set {
+public:
+    explicit Colours_Set(const QPalette& colours) : before_(QApplication::palette())
+    {
+        QApplication::setPalette(colours);
+    }
+    ~Colours_Set() { QApplication::setPalette(before_); }
+
+private:
+    QPalette before_;
+};
+
+// How light what is drawn is as a whole, from 0 to 255.
+int Lightness(const QImage& picture)
+{
+    qint64 sum = 0, weight = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor dot = picture.pixelColor(x, y);
+            sum += qint64(dot.lightness()) * dot.alpha();
+            weight += dot.alpha();
+        }
+    return weight == 0 ? -1 : static_cast<int>(sum / weight);
+}
+
+} // namespace
+
+TEST(WindowLook, Icons_stand_out_on_light_and_dark_windows)
+{
+    constexpr int leastDifference = 70;
+    for (const QPalette& colours : {lightColours, darkColours}) {
+        Colours_Set in_force(colours);
+        const int ground = colours.color(QPalette::Window).lightness();
+        for (const QString& file : QDir(":/icons").entryList()) {
+            const QIcon icon = Icon_Named(file.chopped(4).toStdString());
+            const int drawn = Lightness(icon.pixmap(32, 32).toImage());
+            ASSERT_GE(drawn, 0) << file.toStdString();
+            EXPECT_GE(std::abs(drawn - ground), leastDifference) << file.toStdString();
+        }
+    }
+}
+
+TEST(WindowLook, Every_icon_that_a_command_names_is_drawn)
+{
+    for (const Command& command : Commands())
+        EXPECT_TRUE(command.Icon.empty() || !Icon_Named(command.Icon).isNull()) << command.Id;
+    for (const char* letter : {"F", "D", "P", "M"})
+        EXPECT_FALSE(Icon_OfClass(letter).isNull()) << letter;
+}
+
+TEST(WindowLook, Everything_that_takes_the_focus_has_a_name_to_be_read_out)
+{
+    Person p("window_names", {"a.txt"});
+    p.RenameAllFiles();
+    for (const Control* control : p.Main().Controls()) {
+        QWidget* widget = p.Window().Bound().WidgetOf(control);
+        if (!widget || !control->TakesFocus())
+            continue;
+        const bool hasText = control->MnemonicCaption() && !control->MnemonicCaption()->empty();
+        EXPECT_TRUE(hasText || !widget->accessibleName().isEmpty()) << control->FullName();
+    }
+}
+
+TEST(WindowLook, A_label_that_changes_a_hundred_thousand_times_is_shown_once)
+{
+    Person p("window_frames", {"a.txt"});
+    Label& label = p.Main().lblActionInfo[1];
+    FrameQueue& queue = p.Window().Bound().Queue();
+    queue.Flush();
+    int shown = 0;
+    Binding counted(queue, p.Window(), label.Changed, [&](const PropSet&) { ++shown; });
+    shown = 0;
+    for (int count = 1; count <= 100000; ++count)
+        label.Caption = std::to_string(count);
+    EXPECT_EQ(shown, 0);
+    queue.Flush();
+    EXPECT_EQ(shown, 1);
+    EXPECT_EQ(p.Of<QLabel>("lblActionInfo(1)").text(), "100000");
+}
+
+TEST(WindowLook, Rows_that_come_one_by_one_reach_the_view_together)
+{
+    Person p("window_many", {});
+    ListView& list = p.Main().lsvSelMain;
+    QTableView& table = p.Table("lsvSelMain");
+    QSignalSpy inserted(table.model(), &QAbstractItemModel::rowsInserted);
+    constexpr int many = 200000;
+    for (int row = 0; row < many; ++row)
+        list.Add("row");
+    p.Settle();
+    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(table.model()->rowCount(), many);
+    table.setFocus();
+    p.Key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(list.SelCount(), many);
+    EXPECT_EQ(p.ShownPanel(3), "Selected: 200000");
+    list.DeleteAllItems();
+    EXPECT_EQ(table.model()->data(table.model()->index(many - 1, 0), Qt::DisplayRole), "");
+    p.Settle();
+    EXPECT_EQ(table.model()->rowCount(), 0);
+}
+
+TEST(WindowLook, The_panels_take_the_height_that_they_need)
+{
+    Person p("window_heights", {"a.txt"});
+    p.RenameAllFiles();
+    const Frame& panel = p.Main().ctlRbRenMode[modeNameNumber];
+    QWidget* shown = p.Window().Bound().WidgetOf(&panel);
+    EXPECT_EQ(shown->height(), std::lround(panel.Height / twipsPerPixel));
+    EXPECT_GE(shown->height(), shown->sizeHint().height());
+    EXPECT_EQ(p.Of<ListPage>("lsvRename").y(), shown->height() - 2);
+}
+
+TEST(WindowLook, The_program_and_the_window_agree_on_its_size)
+{
+    Person p("window_size", {"a.txt"});
+    p.Window().resize(1000, 700);
+    p.Settle();
+    FrmMain& form = p.Main();
+    EXPECT_EQ(form.Width(), 15000);
+    EXPECT_EQ(form.Height(), 10500);
+    QWidget* central = p.Window().centralWidget();
+    EXPECT_EQ(p.Running().state.ClientW, central->width() * 15);
+    EXPECT_EQ(p.Running().state.ClientH, central->height() * 15);
+    EXPECT_EQ(p.Window().Bound().WidgetOf(&form.fraSelect)->size(), central->size());
+    form.Move(form.Left(), form.Top(), 13500, 9000);
+    p.Settle();
+    EXPECT_EQ(p.Window().size(), QSize(900, 600));
+    EXPECT_EQ(p.Window().Bound().WidgetOf(&form.fraSelect)->size(), central->size());
+}
+
+TEST(WindowLook, Nothing_on_the_bars_is_cut_at_the_default_size)
+{
+    Person p("window_fits", {"a.txt"});
+    ASSERT_EQ(p.Window().width(), 800);
+    for (const bool rename : {false, true}) {
+        if (rename)
+            p.RenameAllFiles();
+        for (const auto& band : p.Main().atbMain.Bands()) {
+            if (!band->Visible() || p.Main().atbMain.Find(band->Name()) || band->Name() == "Menu")
+                continue;
+            for (Tool* tool : band->Tools()) {
+                const bool isButton = tool->Kind() == ToolKind::Button && tool->Visible;
+                EXPECT_TRUE(!isButton || p.ToolButton(tool->Name())) << tool->Name();
+            }
+        }
+    }
+}
+
+} // namespace tavo
