@@ -110,6 +110,29 @@ is_configured() {
     [[ -f $root/build/$1/build.ninja && $(cache_value "$1" CMAKE_HOME_DIRECTORY) == "$root" ]]
 }
 
+# configure_release [OPTION...]: the release build, with these options on. The
+# others are on where the packages for them are there, so that a server without
+# Qt can have the console, and nothing is built anew without need.
+configure_release() {
+    local option ready=yes window=OFF pictures=OFF options=()
+    for option in "$@"; do
+        options+=("-D$option=ON")
+        if [[ $(cache_value release "$option") != ON ]]; then
+            ready=no
+        fi
+    done
+    if [[ $ready == yes ]] && is_configured release; then
+        return
+    fi
+    if packages_have pictures; then
+        pictures=ON
+        if packages_have window; then
+            window=ON
+        fi
+    fi
+    configure release -DTAVO_WINDOW=$window -DTAVO_PICTURES=$pictures "${options[@]}"
+}
+
 # build PRESET [TARGET...]: builds these targets, or all of them.
 build() {
     local preset=$1 targets=()

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/frm_main.h"
+#include "core/program.h"
+#include "platform/posix/posix_files.h"
+#include "platform/posix/posix_profile.h"
+#include "quiet_desktop.h"
+
+#include <string>
+
+namespace tavo::bench {
+
+// The whole program on the real disk, with nobody in front of it. It asks no
+// questions and closes its panel by itself.
+class Stand {
+    PosixFiles files_;
+    PosixProfile profile_;
+    QuietDesktop desktop_;
+
+public:
+    // `folder` is an empty one, with its slash.
+    explicit Stand(const std::string& folder);
+
+    Program P;
+    ListView& Selection;
+    ListView& Renames;
+
+    // Walks a folder into the selection list.
+    void Walk(const std::string& folder, bool subFolders, const std::string& filter);
+    // Takes all that a folder holds into the rename list.
+    void Load(const std::string& folder);
+    // A counter of six digits and the extension as it is.
+    void Number(const std::string& nameTemplate, int start);
+    // `count` rows as a load would make them, without any files.
+    void FillRows(int count);
+};
+
+// The cells of a made-up row.
+std::string Row_Name(int number);
+
+} // namespace tavo::bench
