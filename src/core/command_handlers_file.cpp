@@ -16,6 +16,8 @@ namespace {
 TextBox* Edit_Target(Program& p)
 {
     auto* box = dynamic_cast<TextBox*>(p.main.ActiveControl());
+    if (box && !(box->IsShown() && box->IsUsable()))
+        return nullptr;
     const auto* combo = dynamic_cast<ComboBox*>(box);
     return combo && combo->Style() == ComboKind::List ? nullptr : box;
 }

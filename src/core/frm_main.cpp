@@ -35,7 +35,7 @@ namespace {
 void Columns_Add(ListView& list)
 {
     list.AddColumn({"Name", "Name", 2460, false, SortMark::None, false});
-    list.AddColumn({"Path", "Path", 1920, false, SortMark::None, true});
+    list.AddColumn({"Path", "Path", 1860, false, SortMark::None, true});
     list.AddColumn({"Size", "Size", 1020, true, SortMark::None, false});
     list.AddColumn({"Type", "Type", 750, false, SortMark::None, true});
     list.AddColumn({"Modified", "Modified", 1980, false, SortMark::None, false});
@@ -47,7 +47,7 @@ void FrmMain::DesignLists()
 {
     Columns_Add(lsvSelMain);
     Columns_Add(lsvRename);
-    lsvRename.AddColumn({"UndoName", "UndoName", 2280, false, SortMark::None, false});
+    lsvRename.AddColumn({"UndoName", "UndoName", 2160, false, SortMark::None, false});
     lsvRename.AddColumn({"Errors", "Errors", 1440, false, SortMark::None, true});
     lsvRename.AccessibleName = "Rename list";
     picThumbnails.AccessibleName = "Thumbnails";

@@ -85,14 +85,20 @@ BoxAnswer Program::Say(const std::string& text, BoxIcon icon, BoxButtons buttons
 
 LongOperation::LongOperation(Program& program) : program_(program), mine_(program.busy_ == 0)
 {
-    if (mine_)
-        ++program_.busy_;
+    if (!mine_)
+        return;
+    ++program_.busy_;
+    program_.main.lsvRename.HoldSelection(true);
+    program_.main.lsvSelMain.HoldSelection(true);
 }
 
 LongOperation::~LongOperation()
 {
-    if (mine_)
-        --program_.busy_;
+    if (!mine_)
+        return;
+    --program_.busy_;
+    program_.main.lsvRename.HoldSelection(false);
+    program_.main.lsvSelMain.HoldSelection(false);
 }
 
 BusyPointer::BusyPointer(Program& program) : program_(program)

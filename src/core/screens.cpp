@@ -44,6 +44,8 @@ void Rename_Show(Program& p, int left)
 {
     p.main.lsvRename.Visible = true;
     Screen_Tools(p, false);
+    if (left == screenSelection)
+        View_Set(p, p.state.lsvView); // the thumbnails may have been left for it
     // The selection screen has put the list's own menus away.
     if (left == screenSelection && p.state.RenCount > 0)
         Tools_Show(p, {"ID_mnuThumbnail", "ID_mnuTSchemes"}, true);
@@ -92,6 +94,18 @@ void Thumbnail_Tools(Program& p, int screen, int left)
     Tools_Enable(p, {"ID_ThumbCaption", "ID_mnuCapAlign"}, thumbnails);
 }
 
+// A control that went away with its screen keeps no keys: the list of the new
+// screen gets them.
+void Focus_Follow(FrmMain& main)
+{
+    const Control* const active = main.ActiveControl();
+    if (active && active->IsShown())
+        return;
+    for (ListView* list : {&main.lsvSelMain, &main.lsvRename})
+        if (list->IsShown() && list->IsUsable())
+            list->SetFocus();
+}
+
 void All_Hide(FrmMain& main)
 {
     for (Control* control : std::initializer_list<Control*>{&main.picThumbnails, &main.fraSelect,
@@ -117,6 +131,7 @@ void Screen_Show(Program& p, int screen, bool refill)
     Form_Resize(p);
     Screen_Content(p, screen, left, refill);
     Thumbnail_Tools(p, screen, left);
+    Focus_Follow(p.main);
     Win_Lock(p, false, p.main);
     p.main.Refresh();
     p.state.ScreenChanging = false;

@@ -203,7 +203,7 @@ void Rows_Walk(Program& p, const ModePlan& plan, const RunRows& rows)
     p.state.OldName.clear();
     p.state.OldExt.clear();
     plan.Walk(p, rows);
-    list.SetSorted(sorted);
+    list.RestoreSorted(sorted); // a run never reorders rows
 }
 
 void Mode_Work(Program& p, int action, int count)

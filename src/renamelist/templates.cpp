@@ -68,16 +68,19 @@ void Tmpl_Scan(std::string_view text, TmplFlags& flags)
 void Tmpl_Replace(std::string& text, std::string_view token, std::string_view value)
 {
     // The search starts anew where the value was put, so a value that holds
-    // the token grows the text until its positions no longer fit. A value that
-    // is the token itself would stand there for ever, and is stepped over.
+    // the token would grow the text until its positions no longer fit: it ends
+    // where no disk takes the name any more. A value that is the token itself
+    // would stand there for ever, and is stepped over.
     constexpr int lastPos = std::numeric_limits<std::int16_t>::max();
+    constexpr std::size_t outgrown = 4096;
+    const bool grows = InStr(1, value, token, Compare::Text) > 0;
     const int step = SameText(value, token) ? Len(value) : 0;
     int pos = 1;
     while ((pos = InStr(pos, text, token, Compare::Text)) > 0 && pos <= lastPos) {
         const std::size_t begin = BytePosOf(text, pos);
         const std::size_t end = BytePosOf(text, pos + Len(token));
         text.replace(begin, end - begin, value);
-        if (text.size() > static_cast<std::size_t>(lastPos))
+        if (grows && text.size() > outgrown)
             return;
         pos += step;
     }

@@ -10,6 +10,7 @@
 #include "toolkit/size_text.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace tavo {
@@ -37,12 +38,14 @@ public:
     {
     }
 
-    void Folder(const std::string& path)
+    void Folder(const std::string& path, bool isLink = false)
     {
-        chain_.push_back(path);
+        chain_.push_back({path, std::nullopt});
+        links_ += isLink ? 1 : 0;
         OwnEntries(path);
         if (subFolders_)
             SubFolders(path);
+        links_ -= isLink ? 1 : 0;
         chain_.pop_back();
     }
 
@@ -99,23 +102,35 @@ private:
             form_.SetCaption(folder);
             form_.Refresh();
             p_.desktop.StillAlive();
-            Folder(Path_AddSlash(folder, p_.files.Rules()));
+            Folder(Path_AddSlash(folder, p_.files.Rules()), IsLink(found));
         });
     }
 
-    // Only a link can lead back to a folder that the walk stands in.
+    static bool IsLink(const FindData& found) { return (found.Attributes & attrReparse) != 0; }
+
+    // Without a link on the way nothing can lead back to a folder that the
+    // walk stands in; behind one, real folders can, too.
     bool LeadsBack(const std::string& path, const FindData& found)
     {
-        if (!(found.Attributes & attrReparse))
+        if (!IsLink(found) && links_ == 0)
             return false;
         const auto target = p_.files.FolderIdentity(path + found.Name);
         if (!target)
             return true;
-        for (const std::string& above : chain_)
-            if (p_.files.FolderIdentity(above) == target)
+        for (Step& above : chain_) {
+            if (!above.Id)
+                above.Id = p_.files.FolderIdentity(above.Path);
+            if (above.Id == target)
                 return true;
+        }
         return false;
     }
+
+    // A folder on the way down; its identity is asked for when it is needed.
+    struct Step {
+        std::string Path;
+        std::optional<FolderId> Id;
+    };
 
     Program& p_;
     const std::string& filter_;
@@ -123,7 +138,8 @@ private:
     ListView& list_;
     Form& form_;
     SystemTime local_;
-    std::vector<std::string> chain_; // the folders from the start to here
+    std::vector<Step> chain_; // the folders from the start to here
+    int links_ = 0;           // how many of them are links
 };
 
 std::vector<std::string> Filter_Split(std::string filter)
@@ -180,6 +196,7 @@ void Sel_List_Fill(Program& p, const std::string& path, bool subFolders, const s
     Cursor_Busy(p, false);
     list.SetAllSelected(false);
     list.SetSelectedItem(0);
+    main.imgSelPreview.Visible = false;
     main.SetCaption(std::string(appTitle));
     main.stbMain.SetPanel(1, "Total: " + std::to_string(list.Count()));
     main.stbMain.SetPanel(3, "Selected: 0");

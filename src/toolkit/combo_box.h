@@ -38,6 +38,8 @@ public:
 
     void PersonText(const std::string& text) override;
     // Up and Down choose the row beside, in a List also Home, End and letters.
+    // Only takes the focus: Click tells of a choice.
+    void PersonClick() override { PersonPress(); }
     void PersonKey(const Key& key) override;
     std::optional<std::string> PropertyText(std::string_view property) const override;
     void PropertyChanged(Prop what) override;

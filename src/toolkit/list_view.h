@@ -112,6 +112,8 @@ public:
     // change while it is on: stably, blind to case. Going off keeps the order.
     bool Sorted() const { return sorted_; }
     void SetSorted(bool on);
+    // Puts the flag back after a walk that needed it off; no row moves.
+    void RestoreSorted(bool on) { sorted_ = on; }
     int SortKey() const { return sortKey_; } // a column number
     void SetSortKey(int column);
     int SortOrder() const { return sortOrder_; } // 0 ascending, 1 descending
@@ -149,6 +151,11 @@ public:
     Event<> DragStarted;      // the left button went down on a row and moved
     Event<const std::vector<std::string>&> FilesDropped;
 
+    // While held, a person's part of the selection stays as it is: what works
+    // on the selected rows must find the same ones at its end. A counter.
+    void HoldSelection(bool on) { held_ += on ? 1 : -1; }
+    bool SelectionHeld() const { return held_ > 0; }
+
     // A person made exactly these rows the selected ones; `clicked` is the row
     // of the click, 0 a place beside the rows.
     void PersonSelect(const std::vector<int>& positions, int clicked);
@@ -176,6 +183,7 @@ private:
 
     void TellCells(int first, int last);
     void TellSelection(int first, int last);
+    bool RefusePerson();
     void TellSelectedItem();
     void TellColumns();
     void Thaw();
@@ -199,6 +207,7 @@ private:
     // Rows: the SelectedItem, and where a selection by Shift begins.
     std::uint32_t item_ = 0xFFFFFFFF, anchor_ = 0xFFFFFFFF;
     int frozen_ = 0;
+    int held_ = 0;
     bool resetOpen_ = false;
     KeptBack kept_;
 };

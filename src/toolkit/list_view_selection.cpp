@@ -81,8 +81,19 @@ void ListView::SelectExactly(const std::vector<int>& positions)
     TellSelection(changed.First, changed.Last);
 }
 
+// A host's own view may have changed its marks already: it is told to look.
+bool ListView::RefusePerson()
+{
+    if (!SelectionHeld())
+        return false;
+    TellSelection(1, Count());
+    return true;
+}
+
 void ListView::PersonSelect(const std::vector<int>& positions, int clicked)
 {
+    if (RefusePerson())
+        return;
     SelectExactly(positions);
     anchor_ = rows_->IdAt(clicked);
     if (!rows_->Has(clicked)) {
@@ -95,18 +106,24 @@ void ListView::PersonSelect(const std::vector<int>& positions, int clicked)
 
 void ListView::PersonSelectAll()
 {
+    if (RefusePerson())
+        return;
     SetAllSelected(true);
     PersonClicked(Count());
 }
 
 void ListView::PersonSelectRange(int first, int last, bool on)
 {
+    if (RefusePerson())
+        return;
     for (int i = std::max(first, 1); i <= std::min(last, Count()); ++i)
         rows_->Select(i, on);
 }
 
 void ListView::PersonClicked(int position)
 {
+    if (RefusePerson())
+        return;
     if (!rows_->Has(position)) {
         Click();
         return;
@@ -117,6 +134,8 @@ void ListView::PersonClicked(int position)
 
 void ListView::PersonPress(int position, int shift)
 {
+    if (RefusePerson())
+        return;
     if (!rows_->Has(position))
         return PersonClicked(position);
     if ((shift & (shiftShift | shiftCtrl)) == shiftCtrl) {
@@ -177,6 +196,8 @@ void ListView::StepTo(int position, int shift)
 
 void ListView::PersonKey(const tavo::Key& key)
 {
+    if (RefusePerson())
+        return;
     if (Count() == 0 || (key.Shift & shiftAlt))
         return;
     if (key.Code == keySpace) {

@@ -105,7 +105,12 @@ void TextBox::UndoEdit()
 void TextBox::Put(const std::string& text, Selection selection, Edit edit)
 {
     if (Text.Get() == text) {
+        // Typing over a selection is an edit, also when the text comes out the
+        // same.
+        const bool replaces = edit != Edit::Whole && selLength_ > 0;
         SetSelection(selection, false);
+        if (replaces)
+            Change();
         return;
     }
     const bool goesOn = canUndo_ && edit != Edit::Whole && edit == lastEdit_;

@@ -140,4 +140,4 @@ TEST_P(ConsoleCase, Prints_and_leaves_what_is_laid_down)
 }
 
 INSTANTIATE_TEST_SUITE_P(Journeys, ConsoleCase, testing::ValuesIn(Cases()),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& each) { return each.param; });

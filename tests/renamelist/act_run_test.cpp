@@ -335,9 +335,10 @@ TEST_P(Run, Sorted_is_off_while_names_change_and_on_again_after)
     ground.Desktop.EachTurn = nullptr;
     EXPECT_GT(rowsSeen, 0);
     EXPECT_TRUE(ground.List.Sorted());
-    // Descending by name: the numbers were given from the top.
-    EXPECT_EQ(ground.Names(), (Texts{"3.txt", "2.txt", "1.txt"}));
-    EXPECT_EQ(ground.Column("UndoName"), (Texts{before[2], before[1], before[0]}));
+    // Descending by name: the numbers were given from the top, and no row
+    // moves for its new name.
+    EXPECT_EQ(ground.Names(), (Texts{"1.txt", "2.txt", "3.txt"}));
+    EXPECT_EQ(ground.Column("UndoName"), before);
 }
 
 TEST_P(Run, After_a_run_of_one_row_the_list_is_no_longer_sorted)

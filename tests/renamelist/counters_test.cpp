@@ -49,6 +49,8 @@ TEST(Counters, Letters_count_in_base_26_with_a_as_zero)
     EXPECT_EQ(Cnt_FromLetters("BAZ"), 701);
     EXPECT_EQ(Cnt_FromLetters("aab"), 1);
     EXPECT_EQ(Cnt_FromLetters(""), 0);
+    EXPECT_EQ(Cnt_FromLetters(std::string(400, 'a') + "b"), 1);
+    EXPECT_GT(Cnt_FromLetters(std::string(400, 'z') + std::string(400, '1')), 1e300);
 }
 
 TEST(Counters, Text_follows_style_and_digits)

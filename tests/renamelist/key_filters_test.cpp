@@ -1,6 +1,6 @@
 #include "renamelist/key_filters.h"
 
-#include "support/run_ground.h"
+#include "support/disk_ground.h"
 
 #include <gtest/gtest.h>
 
@@ -54,17 +54,19 @@ struct NameKeyCase {
 TEST(KeyFilters, A_name_takes_all_but_what_no_name_may_hold)
 {
     const NameKeyCase cases[] = {
-        {modeNameNumber, "\\/:*?|\""},     {modeSearchReplace, "\\/:*?|\"<>"},
-        {modeAttributes, "\\/:*?|\"<>"},   {modeMp3Tag, "\\/:*?|\"<>"},
+        {modeNameNumber, "\\/:*?|\""},
+        {modeSearchReplace, "\\/:*?|\"<>"},
+        {modeAttributes, "\\/:*?|\"<>"},
+        {modeMp3Tag, "\\/:*?|\"<>"},
     };
     for (const Ground kind : {Ground::Windows, Ground::Linux})
         for (const NameKeyCase& wanted : cases) {
-            RunGround ground(kind);
+            DiskGround ground(kind);
             ground.P.state.RenMode = static_cast<std::int16_t>(wanted.Mode);
             for (int typed = 0; typed < 256; ++typed) {
-                const bool refused = typed > 0 && typed < 128
-                                     && wanted.Refused.find(static_cast<char>(typed))
-                                            != std::string::npos;
+                const bool refused =
+                    typed > 0 && typed < 128
+                    && wanted.Refused.find(static_cast<char>(typed)) != std::string::npos;
                 ground.G.Desktop.Boxes.clear();
                 int key = typed;
                 Key_FileName(ground.P, key);
@@ -76,7 +78,7 @@ TEST(KeyFilters, A_name_takes_all_but_what_no_name_may_hold)
 
 TEST(KeyFilters, The_message_names_what_is_refused)
 {
-    RunGround ground(Ground::Linux);
+    DiskGround ground(Ground::Linux);
     int key = '*';
     Key_FileName(ground.P, key);
     ASSERT_EQ(ground.G.Desktop.Boxes.size(), 1U);

@@ -1,7 +1,7 @@
 #include "renamelist/nn_panel.h"
 
 #include "core/screens.h"
-#include "support/run_ground.h"
+#include "support/disk_ground.h"
 #include "toolkit/text.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +47,7 @@ protected:
         s.nnAppTmpDef = static_cast<std::int16_t>(List_Last(s.Templates));
     }
 
-    RunGround ground;
+    DiskGround ground;
     Program& p;
     SharedState& s;
     FrmMain& f;
@@ -125,9 +125,9 @@ struct DigitsCase {
 TEST_F(NnPanel, Digits_are_as_wide_as_start_or_number_of_rows)
 {
     const DigitsCase cases[] = {
-        {1, "1", 9, "1"},   {1, "1", 10, "2"},   {1, "1", 1200, "4"}, {1, "00001", 3, "5"},
-        {2, "b", 25, "1"},  {2, "b", 26, "2"},   {2, "b", 700, "3"},  {3, "BAAAAA", 3, "5"},
-        {3, "B", 700, "3"},
+        {1, "1", 9, "1"},     {1, "1", 10, "2"},     {1, "1", 1200, "4"},
+        {1, "00001", 3, "5"}, {2, "b", 25, "1"},     {2, "b", 26, "2"},
+        {2, "b", 700, "3"},   {3, "BAAAAA", 3, "5"}, {3, "B", 700, "3"},
     };
     for (const DigitsCase& wanted : cases) {
         SetStyle(wanted.Style);
@@ -182,8 +182,8 @@ struct StyleCase {
 TEST_F(NnPanel, Another_style_converts_the_start)
 {
     const StyleCase cases[] = {
-        {1, "27", 2, "bb"}, {1, "27", 3, "BB"}, {2, "bb", 1, "27"}, {2, "bb", 3, "BB"},
-        {3, "BB", 2, "bb"}, {3, "BA", 1, "26"}, {1, "0", 2, "a"},   {2, "a", 1, "0"},
+        {1, "27", 2, "bb"}, {1, "27", 3, "BB"},   {2, "bb", 1, "27"}, {2, "bb", 3, "BB"},
+        {3, "BB", 2, "bb"}, {3, "BA", 1, "26"},   {1, "0", 2, "a"},   {2, "a", 1, "0"},
         {1, "", 3, "A"},    {1, "701", 1, "701"}, {3, "Z", 3, "Z"},
     };
     for (const StyleCase& wanted : cases) {
@@ -232,8 +232,8 @@ struct StepCase {
 
 TEST_F(NnPanel, Page_keys_step_the_digits)
 {
-    const StepCase cases[] = {{"1", "2", "1"},   {"5", "6", "4"},    {"9", "9", "8"},
-                              {"", "1", "-1"},   {"12", "13", "11"}, {"0", "1", "-1"}};
+    const StepCase cases[] = {{"1", "2", "1"}, {"5", "6", "4"},    {"9", "9", "8"},
+                              {"", "1", "-1"}, {"12", "13", "11"}, {"0", "1", "-1"}};
     for (const StepCase& wanted : cases) {
         Type(nnDigitsBox, wanted.Text);
         Press(nnDigitsBox, "PageUp");
@@ -252,7 +252,7 @@ struct TypingCase {
 TEST_F(NnPanel, A_typed_digit_takes_the_place_of_the_width)
 {
     const TypingCase cases[] = {
-        {"4", "7", "7", 7},   {"12", "3", "3", 3}, {"", "5", "5", 5},
+        {"4", "7", "7", 7},   {"12", "3", "3", 3},  {"", "5", "5", 5},
         {"4", "4", "44", 44}, {"4", "0", "40", 40}, {"4", "x", "4x", 4},
     };
     for (const TypingCase& wanted : cases) {
@@ -279,9 +279,9 @@ struct FilterCase {
 
 TEST_F(NnPanel, The_start_box_filters_keys_by_its_style)
 {
-    const FilterCase cases[] = {{1, "7", "7"}, {1, "a", ""},  {1, "-", ""}, {2, "c", "c"},
-                                {2, "C", "c"}, {2, "7", ""},  {3, "c", "C"}, {3, "C", "C"},
-                                {3, "*", ""}};
+    const FilterCase cases[] = {{1, "7", "7"}, {1, "a", ""},  {1, "-", ""},
+                                {2, "c", "c"}, {2, "C", "c"}, {2, "7", ""},
+                                {3, "c", "C"}, {3, "C", "C"}, {3, "*", ""}};
     for (const FilterCase& wanted : cases) {
         SetStyle(wanted.Style);
         Type(nnStartBox, "");
@@ -327,7 +327,7 @@ struct LeaveCase {
 TEST_F(NnPanel, Leaving_a_template_box_takes_away_what_is_no_token)
 {
     // A "<" that opens no token goes, and the ">" that is left over with it.
-    const LeaveCase cases[] = {{"<X>abc", "Xabc"},      {"<e>", "e"},   {"<ER>", "ER"},
+    const LeaveCase cases[] = {{"<X>abc", "Xabc"},       {"<e>", "e"},  {"<ER>", "ER"},
                                {"<on>_<#>", "<on>_<#>"}, {"a*b", "ab"}, {"a>b", "ab"}};
     for (const int index : {nnName, nnExt})
         for (const LeaveCase& wanted : cases) {

@@ -119,8 +119,7 @@ bool Shows(int shown, int count)
 // in its own way, again and again.
 bool MayStandInItsOwnWay(const NnTask& task)
 {
-    return task.PreList == 1
-           && (task.NameTemplate + "." + task.ExtTemplate).starts_with("<ON>.");
+    return task.PreList == 1 && (task.NameTemplate + "." + task.ExtTemplate).starts_with("<ON>.");
 }
 
 // The walk came back to one row for ever, or until its path was as long as a

@@ -1,12 +1,11 @@
 #include "renamelist/nn_run.h"
 
 #include "renamelist/act_run.h"
-#include "support/run_ground.h"
+#include "support/disk_ground.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <ostream>
 
 namespace tavo {
 
@@ -26,7 +25,7 @@ protected:
     Texts Undo() const { return ground.G.Column("UndoName"); }
     Texts Errors() const { return ground.G.Column("Errors"); }
 
-    RunGround ground;
+    DiskGround ground;
     Program& p;
     SharedState& s;
 };
@@ -333,7 +332,7 @@ TEST_P(NnRun, Each_row_ends_as_the_rules_have_it)
 {
     for (const RunCase& wanted : runCases) {
         SCOPED_TRACE(wanted.What);
-        RunGround own(GetParam());
+        DiskGround own(GetParam());
         own.Load(InFolder(wanted.Rows));
         for (const std::string& name : wanted.Outside)
             own.AddFile(InFolder(name));
@@ -533,6 +532,20 @@ TEST_P(NnRun, A_long_name_is_cut_for_its_temporary_one_and_splits_no_character)
     EXPECT_EQ(ground.ContentOf("d/2" + tail), "d/1" + tail);
 }
 
+TEST_P(NnRun, A_temporary_name_keeps_the_last_253_characters)
+{
+    if (GetParam() == Ground::Windows)
+        return; // its paths are too short for such names
+    const std::string tail = "abc" + std::string(251, 'x'); // with a digit 255
+    ground.Load({"d/a", "d/1" + tail});
+    Texts seen;
+    ground.G.Desktop.EachTurn = [&](int) { seen.push_back(ground.G.Cell(2, "Name")); };
+    ground.G.SetTemplates("<#>" + tail, "");
+    ground.RunAll();
+    EXPECT_TRUE(Contains(seen, "0" + tail.substr(1)));
+    EXPECT_EQ(Names(), (Texts{"1" + tail, "2" + tail}));
+}
+
 TEST_P(NnRun, A_long_chain_is_renamed_without_losing_a_file)
 {
     Texts rows;
@@ -558,8 +571,8 @@ TEST_P(NnRun, Characters_of_the_disk_come_through_unchanged)
     ground.Load(rows);
     ground.G.SetTemplates("<#>-<ON>", "<OE>");
     ground.RunAll();
-    EXPECT_EQ(Names(), (Texts{"1-\xff\xfe.txt", "2-new\nline.txt", "3-e\u0301.txt",
-                              "4-\u00e9.txt", "5-a:b?.txt"}));
+    EXPECT_EQ(Names(), (Texts{"1-\xff\xfe.txt", "2-new\nline.txt", "3-e\u0301.txt", "4-\u00e9.txt",
+                              "5-a:b?.txt"}));
     for (std::size_t i = 0; i < rows.size(); ++i)
         EXPECT_EQ(ground.ContentOf("d/" + Names()[i]), rows[i]);
 }
@@ -644,139 +657,6 @@ TEST_P(NnRun, A_failure_of_the_run_before_is_not_remembered)
     ground.RunAll();
     EXPECT_EQ(Names(), (Texts{"x1", "x2"}));
     EXPECT_EQ(ground.Counts(), "1//1");
-}
-
-// -- The panel and the pump.
-
-struct Seen {
-    std::string Stage, Caption, Counts, Bar;
-    friend bool operator==(const Seen&, const Seen&) = default;
-};
-
-void PrintTo(const Seen& seen, std::ostream* out)
-{
-    *out << seen.Stage << " | " << seen.Caption << " | " << seen.Counts << " | " << seen.Bar;
-}
-
-namespace {
-
-// What a person sees at each turn of the pump in the walk itself.
-std::vector<Seen> Walk_Watch(RunGround& ground)
-{
-    std::vector<Seen> seen;
-    ground.G.Desktop.EachTurn = [&](int) {
-        const std::string stage = ground.Main.lblActionInfo[0].Caption;
-        if (stage.ends_with("Files...") || stage.starts_with("Buffering"))
-            seen.push_back({stage, ground.Main.Caption(), ground.Counts(),
-                            Length_Text(ground.Main.prbAction.Value)});
-    };
-    ground.RunAll();
-    ground.G.Desktop.EachTurn = nullptr;
-    return seen;
-}
-
-} // namespace
-
-// Each success lets events in by itself, and so does each row at its end.
-TEST_P(NnRun, A_single_pass_shows_each_row_as_it_goes)
-{
-    ground.Load({"d/a", "d/b", "d/c", "d/xd"});
-    ground.Remove("d/b");
-    ground.G.SetTemplates("x<ON>", "");
-    const std::string stage = "Renaming Files...";
-    const std::vector<Seen> wanted{
-        {stage, "Tavo 25%", "//", "25"},     {stage, "Tavo 25%", "1//", "25"},
-        {stage, "Tavo 50%", "1/1/", "50"},   {stage, "Tavo 75%", "1/1/", "75"},
-        {stage, "Tavo 75%", "2/1/", "75"},   {stage, "Tavo 100%", "2/1/", "100"},
-        {stage, "Tavo 100%", "3/1/", "100"},
-    };
-    EXPECT_EQ(Walk_Watch(ground), wanted);
-}
-
-TEST_P(NnRun, A_numbering_keeps_the_first_names_and_then_shows_each_row)
-{
-    ground.Load({"d/a", "d/1"});
-    ground.G.SetTemplates("<#>", "");
-    const std::string stage = "Numbering Files...";
-    const std::vector<Seen> wanted{
-        {"Buffering Undo Names...", "Tavo - Name & Number", "//", "0"},
-        // Row 2 is moved aside, and that is not counted.
-        {stage, "Tavo 50%", "//", "50"},
-        {stage, "Tavo 50%", "//", "50"},
-        {stage, "Tavo 50%", "//", "50"},
-        {stage, "Tavo 50%", "1//", "50"},
-        {stage, "Tavo 100%", "1//", "100"},
-        {stage, "Tavo 100%", "2//", "100"},
-    };
-    EXPECT_EQ(Walk_Watch(ground), wanted);
-    EXPECT_EQ(ground.Main.lblActionInfo[0].Caption.Get(), "Finished! Click Done to Continue...");
-    EXPECT_EQ(ground.Main.Caption(), "Tavo - Name & Number");
-}
-
-// A row that is done already takes no turn.
-TEST_P(NnRun, A_row_that_was_named_out_of_its_turn_is_passed_over)
-{
-    ground.Load({"d/a", "d/1"});
-    ground.G.SetTemplates("<#>", "");
-    s.PreList = 0;
-    const std::vector<Seen> wanted{
-        {"Buffering Undo Names...", "Tavo - Name & Number", "//", "0"},
-        {"Numbering Files...", "Tavo 50%", "//1", "50"},
-    };
-    // The conflict is counted for good only where nobody stands in the way.
-    EXPECT_EQ(Walk_Watch(ground), wanted);
-    EXPECT_EQ(ground.Counts(), "//1");
-}
-
-// -- Cancel.
-
-TEST_P(NnRun, A_cancel_ends_the_run_behind_the_row_in_progress)
-{
-    struct CancelCase {
-        const char *What, *Name;
-        int AtTurn; // of the walk
-        Texts Names;
-    };
-    // Turns of a plain run: 1 in row a, 2 behind it, 3 in row b ... A counted
-    // one has a turn in front, where the names have been kept.
-    const CancelCase cases[] = {
-        {"plain, in the rename of the second row", "x<ON>", 3, {"xa", "xb", "c", "e"}},
-        {"plain, behind the second row", "x<ON>", 4, {"xa", "xb", "c", "e"}},
-        {"counted, in the rename of the second row", "x<#>", 4, {"x1", "x2", "c", "e"}},
-        {"counted, behind the second row", "x<#>", 5, {"x1", "x2", "c", "e"}},
-    };
-    for (const CancelCase& wanted : cases) {
-        SCOPED_TRACE(wanted.What);
-        RunGround own(GetParam());
-        own.Load({"d/a", "d/b", "d/c", "d/e"});
-        own.G.SetTemplates(wanted.Name, "");
-        int turn = 0;
-        own.G.Desktop.EachTurn = [&](int) {
-            const std::string stage = own.Main.lblActionInfo[0].Caption;
-            const bool walks = stage.ends_with("Files...") || stage.starts_with("Buffering");
-            if (walks && ++turn == wanted.AtTurn)
-                own.Main.cmdActCancel.PersonClick();
-        };
-        own.RunAll();
-        EXPECT_EQ(own.G.Names(), wanted.Names);
-        EXPECT_EQ(own.G.Column("UndoName"), (Texts{"a", "b", "", ""}));
-        EXPECT_TRUE(own.P.state.ActCancel);
-    }
-}
-
-// What was moved aside stays so; its first name is kept for undo.
-TEST_P(NnRun, A_cancel_while_a_row_stands_aside_keeps_its_first_name)
-{
-    ground.Load({"d/a", "d/1"});
-    ground.G.SetTemplates("<#>", "");
-    ground.G.Desktop.EachTurn = [&](int) {
-        if (Undo()[1] == "1")
-            s.ActCancel = true;
-    };
-    ground.RunAll();
-    EXPECT_EQ(Names(), (Texts{"a", "01"}));
-    EXPECT_EQ(Undo(), (Texts{"", "1"}));
-    EXPECT_EQ(ground.ContentOf("d/01"), "d/1");
 }
 
 } // namespace tavo

@@ -1,7 +1,7 @@
 #include "renamelist/preview.h"
 
 #include "core/screens.h"
-#include "support/run_ground.h"
+#include "support/disk_ground.h"
 
 #include <gtest/gtest.h>
 
@@ -21,14 +21,13 @@ protected:
     std::string Name() const { return f.txtNameNum[nnName].Text; }
     std::string Ext() const { return f.txtNameNum[nnExt].Text; }
 
-    RunGround ground;
+    DiskGround ground;
     Program& p;
     SharedState& s;
     FrmMain& f;
 };
 
-INSTANTIATE_TEST_SUITE_P(InBothDialects, Preview,
-                         ::testing::Values(Ground::Windows, Ground::Linux),
+INSTANTIATE_TEST_SUITE_P(InBothDialects, Preview, ::testing::Values(Ground::Windows, Ground::Linux),
                          [](const auto& test) { return Ground_Name(test.param); });
 
 } // namespace
@@ -82,9 +81,9 @@ struct OutcomeCase {
 TEST_P(Preview, The_outcome_counts_by_the_place_in_the_list)
 {
     const OutcomeCase cases[] = {
-        {"<#>", "", 1, "05"},         {"<#>", "<OE>", 3, "07.txt"}, {"<ON>_<#>", "", 2, "b_06"},
-        {"<ON>", "<#>", 3, "c.07"},   {"plain", "", 2, "plain"},    {"", "", 1, ""},
-        {"", "x", 1, ".x"},           {"<T>", "<OE>", 1, "<T>.txt"}, {"<on>", "", 1, "<on>"},
+        {"<#>", "", 1, "05"},       {"<#>", "<OE>", 3, "07.txt"},  {"<ON>_<#>", "", 2, "b_06"},
+        {"<ON>", "<#>", 3, "c.07"}, {"plain", "", 2, "plain"},     {"", "", 1, ""},
+        {"", "x", 1, ".x"},         {"<T>", "<OE>", 1, "<T>.txt"}, {"<on>", "", 1, "<on>"},
         {"<on><ON>", "", 1, "aa"},
     };
     ground.Load({"d/a.txt", "d/b.txt", "d/c.txt"});

@@ -51,7 +51,7 @@ struct KeyCase {
 const KeyCase keyCases[] = {
     {"typed at the caret", "ac", 1, 0, 0, "b", "ab|c", 1},
     {"typed over a selection", "abcd", 1, 2, 0, "X", "aX|d", 1},
-    {"the same over a selection", "abc", 1, 1, 0, "b", "ab|c", 0},
+    {"the same over a selection", "abc", 1, 1, 0, "b", "ab|c", 1},
     {"characters, not bytes", "\xC3\xA4\xC3\xB6", 1, 0, 0, "\xC3\xBC", "\xC3\xA4\xC3\xBC|\xC3\xB6",
      1},
     {"no room", "abc", 3, 0, 3, "d", "abc|", 0},

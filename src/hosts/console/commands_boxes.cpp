@@ -79,8 +79,12 @@ bool Do_Type(Session& session, const Words& words, Outcome& outcome)
     if (box == nullptr)
         return false;
     box->SetFocus();
-    for (std::size_t at = 0; at < words[1].size();)
-        box->Owner().PersonKey(box, Key_FromChar(NextChar(words[1], at).Code));
+    // A Tab among the characters takes the next ones along.
+    Form& form = box->Owner();
+    for (std::size_t at = 0; at < words[1].size();) {
+        Control* const active = form.ActiveControl();
+        form.PersonKey(active ? active : box, Key_FromChar(NextChar(words[1], at).Code));
+    }
     return true;
 }
 

@@ -148,9 +148,9 @@ bool ConsoleDesktop::ShellExecuteA(const std::string& verb, const std::string& a
     return true;
 }
 
-bool ConsoleDesktop::LoadPicture(const std::string&, int&, int&)
+bool ConsoleDesktop::LoadPicture(const std::string& path, int& widthPixels, int& heightPixels)
 {
-    return false;
+    return PictureReader && PictureReader(path, widthPixels, heightPixels);
 }
 
 SystemTime ConsoleDesktop::Now()

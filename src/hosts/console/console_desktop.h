@@ -3,6 +3,7 @@
 #include "platform/desktop.h"
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,9 @@ public:
     const std::vector<Form*>& Forms();
     Form* Front();
 
+    // Gives a picture's size in pixels; false for what is none. Without it no
+    // file is a picture.
+    std::function<bool(const std::string& path, int& width, int& height)> PictureReader;
     std::deque<Answer> Answers;
     std::vector<BoxRecord> Boxes;
     std::vector<Opened> OpenedNow;

@@ -1,5 +1,6 @@
 #include "core/program.h"
 #include "hosts/console/session.h"
+#include "hosts/pictures/picture_reader.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_profile.h"
 #include "platform/posix/start_info.h"
@@ -38,7 +39,7 @@ bool Arguments_Read(const std::vector<std::string>& words, Arguments& arguments)
             onlyPaths = true;
         } else if (word == "-k") {
             arguments.KeepGoing = true;
-        } else if (Takes_Value(word) && i + 1 < words.size()) {
+        } else if (Takes_Value(word) && i + 1 < words.size() && !words[i + 1].empty()) {
             (word == "-f" ? arguments.CommandFile : arguments.AppFolder) = words[++i];
         } else {
             return false;
@@ -75,6 +76,7 @@ int Run(const Arguments& arguments, std::istream& in, bool isTerminal)
     tavo::PosixFiles files;
     tavo::PosixProfile profile;
     tavo::console::ConsoleDesktop desktop;
+    desktop.PictureReader = tavo::pictures::Picture_Size;
     tavo::Program program(files, profile, desktop, Start_Info(arguments));
     tavo::console::Session session(program, desktop, {in, std::cout, std::cerr, isTerminal},
                                    arguments.KeepGoing);
@@ -94,7 +96,7 @@ int main(int argc, char** argv)
     if (arguments.CommandFile.empty())
         return Run(arguments, std::cin, isatty(STDIN_FILENO) == 1);
     std::ifstream file(arguments.CommandFile, std::ios::binary);
-    if (!file) {
+    if (!file || std::filesystem::is_directory(arguments.CommandFile)) {
         std::cerr << "tavo-console: cannot read " << arguments.CommandFile << '\n';
         return exitWrongArguments;
     }

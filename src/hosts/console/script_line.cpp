@@ -52,12 +52,14 @@ bool Quoted_Read(std::string_view line, std::size_t& at, std::string& word, std:
     while (at < line.size() && line[at] != '"') {
         if (line[at] != '\\') {
             word += line[at++];
+        } else if (at + 1 == line.size()) {
+            break;
         } else if (!Escape_Read(line, at, word)) {
             why = "unknown escape in quotes";
             return false;
         }
     }
-    if (at >= line.size()) {
+    if (at >= line.size() || line[at] != '"') {
         why = "unfinished quote";
         return false;
     }

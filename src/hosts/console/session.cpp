@@ -42,7 +42,7 @@ int Session::Run()
     while (!IsOver() && NextLine()) {
     }
     Leave();
-    return failed_ ? 1 : 0;
+    return failed_ || !streams_.Out.flush() ? 1 : 0;
 }
 
 bool Session::IsOver() const
@@ -52,6 +52,8 @@ bool Session::IsOver() const
 
 void Session::Leave()
 {
+    for (const Kept& kept : std::exchange(next_, {}))
+        PrintError(kept.Line, "no command follows");
     if (program.main.Loaded())
         program.main.PersonClose();
     program.Settle();
@@ -74,14 +76,16 @@ bool Session::NextLine()
     std::string line;
     if (stopped_ || !ReadLine(line))
         return false;
+    const auto first = line.find_first_not_of(" \t");
+    if (first == std::string::npos || line[first] == '#')
+        return true;
     Words words;
     std::string why;
     if (!Line_Split(line, words, why)) {
         PrintError(line_, why);
         return true;
     }
-    if (!words.empty() && words.front().front() != '#')
-        Do(words, line_);
+    Do(words, line_);
     return true;
 }
 
@@ -128,7 +132,7 @@ void Session::PrintError(int line, const std::string& why)
 {
     streams_.Error << line << ": error: " << Value_Escape(why) << std::endl;
     failed_ = true;
-    if (keepGoing_ || streams_.IsTerminal || stopped_)
+    if (keepGoing_ || stopped_)
         return;
     stopped_ = true;
     // In the midst of a run this only cancels it.
@@ -176,7 +180,8 @@ void Session::PumpTurn()
 // In the order given; one of them may come to the pump itself.
 void Session::RunDue(std::size_t frame)
 {
-    const auto isDue = [&](const Kept& kept) { return kept.Turn == frames_[frame].Turns; };
+    // One before it may have let further turns go by.
+    const auto isDue = [&](const Kept& kept) { return kept.Turn <= frames_[frame].Turns; };
     while (frame < frames_.size()) {
         std::vector<Kept>& pending = frames_[frame].Pending;
         const auto due = std::find_if(pending.begin(), pending.end(), isDue);
