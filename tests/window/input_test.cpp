@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -16,9 +17,12 @@
 #include <QListView>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
+#include <QTimer>
 
 namespace tavo {
 
@@ -75,7 +79,8 @@ TEST(WindowInput, What_is_pasted_is_cut_to_the_room_of_the_box)
     name.paste();
     p.Settle();
     EXPECT_EQ(name.text(), "a\u00e4\U0001F600d");
-    EXPECT_EQ(box.Text.Get(), "a\xC3\xA4\xF0\x9F\x98\x80" "d");
+    EXPECT_EQ(box.Text.Get(), "a\xC3\xA4\xF0\x9F\x98\x80"
+                              "d");
     EXPECT_EQ(box.SelStart(), 3);
     p.Type(name, "z");
     EXPECT_EQ(name.text(), "a\u00e4\U0001F600d");
@@ -308,8 +313,7 @@ TEST(WindowInput, The_arrow_of_Views_brings_up_its_menu)
         if (action->objectName() == "ID_ArrangeList")
             list = action;
     }
-    EXPECT_EQ(entries,
-              (QStringList{"Large Icons", "Small Icons", "List", "Details", "Thumbnail"}));
+    EXPECT_EQ(entries, (QStringList{"Large Icons", "Small Icons", "List", "Details", "Thumbnail"}));
     ASSERT_NE(list, nullptr);
     QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(list).center());
     p.Settle();
@@ -353,6 +357,63 @@ TEST(WindowInput, The_split_bar_follows_the_mouse)
     p.Settle();
     EXPECT_NEAR(tree.width(), before + 64, 16);
     EXPECT_EQ(p.Of<ListPage>("lsvSelMain").x(), tree.width() + bar.width());
+}
+
+TEST(WindowInput, A_timer_of_the_program_ticks_for_as_long_as_it_is_on)
+{
+    Person p("window_timer", threeFiles);
+    Timer& timer = p.Main().tmrDateTimeClock;
+    int ticks = 0;
+    const Connection heard = timer.Tick.Listen([&] {
+        if (++ticks == 3)
+            timer.Enabled = false;
+    });
+    timer.Interval = 1;
+    timer.Enabled = true;
+    while (ticks < 3)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    p.Settle();
+    for (const QTimer* clock : p.Window().findChildren<QTimer*>())
+        EXPECT_FALSE(clock->isActive() && clock->interval() == 1);
+    EXPECT_EQ(ticks, 3);
+}
+
+TEST(WindowInput, A_message_box_has_its_buttons_and_its_default)
+{
+    struct Row {
+        BoxButtons Buttons;
+        BoxAnswer Default;
+        const char* DefaultText;
+        QStringList Texts;
+        BoxAnswer Closed;
+    };
+    const Row rows[] = {
+        {BoxButtons::Ok, BoxAnswer::Ok, "OK", {"OK"}, BoxAnswer::Ok},
+        {BoxButtons::OkCancel, BoxAnswer::Ok, "OK", {"OK", "Cancel"}, BoxAnswer::Cancel},
+        {BoxButtons::OkCancel, BoxAnswer::Cancel, "Cancel", {"OK", "Cancel"}, BoxAnswer::Cancel},
+        {BoxButtons::YesNo, BoxAnswer::Yes, "Yes", {"Yes", "No"}, BoxAnswer::No},
+    };
+    Person p("window_boxes", {});
+    for (const Row& row : rows) {
+        QStringList texts;
+        QString byDefault, caption, text;
+        p.InNextDialog([&](QWidget& dialog) {
+            auto& box = dynamic_cast<QMessageBox&>(dialog);
+            for (QAbstractButton* button : box.buttons())
+                texts.push_back(button->text().remove('&'));
+            byDefault = box.defaultButton()->text().remove('&');
+            caption = box.windowTitle();
+            text = box.text();
+            box.close();
+        });
+        const BoxAnswer answer =
+            p.Running().Say("<b>a & b</b>", BoxIcon::Question, row.Buttons, row.Default);
+        EXPECT_EQ(texts, row.Texts) << row.DefaultText;
+        EXPECT_EQ(byDefault, row.DefaultText);
+        EXPECT_EQ(answer, row.Closed) << row.DefaultText;
+        EXPECT_EQ(caption, "Tavo Says...");
+        EXPECT_EQ(text, "<b>a & b</b>");
+    }
 }
 
 TEST(WindowInput, The_address_bar_comes_and_goes_and_the_list_takes_its_room)

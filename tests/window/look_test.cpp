@@ -155,6 +155,47 @@ TEST(WindowLook, The_program_and_the_window_agree_on_its_size)
     EXPECT_EQ(p.Window().Bound().WidgetOf(&form.fraSelect)->size(), central->size());
 }
 
+TEST(WindowLook, A_maximised_window_keeps_its_normal_size_in_mind)
+{
+    Person p("window_maximised", {"a.txt"});
+    FrmMain& form = p.Main();
+    p.Window().showMaximized();
+    p.Settle();
+    EXPECT_EQ(form.State(), WindowState::Maximised);
+    EXPECT_EQ(form.Width(), 12000);
+    EXPECT_EQ(form.Height(), 9000);
+    EXPECT_EQ(p.Running().state.ClientW, p.Window().centralWidget()->width() * 15);
+    form.SetState(WindowState::Normal);
+    p.Settle();
+    EXPECT_FALSE(p.Window().isMaximized());
+    EXPECT_EQ(p.Window().size(), QSize(800, 600));
+    EXPECT_EQ(p.Running().state.ClientW, p.Window().centralWidget()->width() * 15);
+}
+
+TEST(WindowLook, A_place_off_every_screen_is_not_gone_to)
+{
+    Person p("window_off_screen", {"a.txt"});
+    FrmMain& form = p.Main();
+    form.Move(300, 450, form.Width(), form.Height());
+    p.Settle();
+    EXPECT_EQ(p.Window().pos(), QPoint(20, 30));
+    form.Move(-900000, 450, form.Width(), form.Height());
+    p.Settle();
+    EXPECT_EQ(p.Window().pos(), QPoint(20, 30));
+}
+
+TEST(WindowLook, The_panel_fits_into_the_smallest_layout)
+{
+    Person p("window_smallest", {"a.txt"});
+    p.Main().lblTmpInsert[tmplCurrentLabel].Caption = "A template with a rather long name";
+    p.RenameAllFiles();
+    p.Window().resize(300, 300);
+    p.Settle();
+    const Frame& panel = p.Main().ctlRbRenMode[modeNameNumber];
+    ASSERT_EQ(panel.Width, 6732);
+    EXPECT_LE(p.Window().Bound().WidgetOf(&panel)->minimumSizeHint().width(), 449);
+}
+
 TEST(WindowLook, Nothing_on_the_bars_is_cut_at_the_default_size)
 {
     Person p("window_fits", {"a.txt"});

@@ -39,9 +39,11 @@ TEST(QtText, All_code_points_come_back_unchanged)
 
 TEST(QtText, Broken_sequences_of_UTF_8_keep_each_byte)
 {
-    const char* const texts[] = {"\xED\xB2\x80",     "\xED\xA0\x80\xED\xB0\x80", "\xF4\x90\x80\x80",
-                                 "\xC0\x80",         "\xE2\x82",                 "\xF0\x9F\x98",
-                                 "a\xE2\x82z",       "\xF0\x9F\x98\x80\x80",     "\xFF\xFE"};
+    const char* const texts[] = {"\xED\xB2\x80",     "\xED\xA0\x80\xED\xB0\x80",
+                                 "\xF4\x90\x80\x80", "\xC0\x80",
+                                 "\xE2\x82",         "\xF0\x9F\x98",
+                                 "a\xE2\x82z",       "\xF0\x9F\x98\x80\x80",
+                                 "\xFF\xFE"};
     for (const char* text : texts)
         EXPECT_EQ(FromQt(ToQt(text)), text) << text;
 }
@@ -70,7 +72,8 @@ TEST(QtText, Positions_count_characters_here_and_units_there)
     struct Row {
         int Chars, Units;
     };
-    const QString text = ToQt("a\xF0\x9F\x98\x80\xFF" "b");
+    const QString text = ToQt("a\xF0\x9F\x98\x80\xFF"
+                              "b");
     ASSERT_EQ(Chars_In(text), 4);
     for (const auto& [chars, units] : {Row{0, 0}, Row{1, 1}, Row{2, 3}, Row{3, 4}, Row{4, 5}}) {
         EXPECT_EQ(Units_OfChars(text, chars), units) << chars;
@@ -82,8 +85,8 @@ TEST(QtText, Positions_count_characters_here_and_units_there)
 
 TEST(QtText, Paths_of_any_bytes_pass_through_a_list_of_addresses)
 {
-    const std::vector<std::string> paths = {"/a b/c%20d", "/\xFF\xC3\xA4/new\nline", "/#?[x]&=",
-                                            "/"};
+    const std::vector<std::string> paths = {"/a b/c%20d", "/\xFF\xC3\xA4/new\nline",
+                                            "/#?[x]&=", "/"};
     EXPECT_EQ(Paths_InUriList(UriList_Of(paths)), paths);
 }
 

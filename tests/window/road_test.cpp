@@ -127,8 +127,7 @@ TEST(WindowRoad, A_drag_that_begins_beside_the_rows_selects_what_it_passes)
     const auto middle = [&](int row) {
         return table.visualRect(table.model()->index(row - 1, 0)).center();
     };
-    QTest::mousePress(table.viewport(), Qt::LeftButton, {},
-                      {40, table.viewport()->height() - 4});
+    QTest::mousePress(table.viewport(), Qt::LeftButton, {}, {40, table.viewport()->height() - 4});
     for (const int row : {6, 5, 4})
         QTest::mouseMove(table.viewport(), middle(row));
     p.Settle();

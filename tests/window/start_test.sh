@@ -25,6 +25,7 @@ while [ "$tries" -lt 100 ] && [ "$shades" -lt 20 ] && kill -0 "$tavo"; do
     tries=$((tries + 1))
 done
 kill -0 "$tavo" || exit 1
+xwininfo -root -tree | grep -q '"Tavo": ("tavo" ' || exit 1
 kill "$tavo"
 wait "$tavo" || true
 echo "$shades shades after $tries looks"

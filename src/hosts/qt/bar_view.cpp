@@ -82,30 +82,23 @@ void BarView::FitFont()
 void BarView::AddTool(Tool& tool)
 {
     switch (tool.Kind()) {
-    case ToolKind::Separator:
-        addSeparator();
-        return;
-    case ToolKind::DropDown:
-        return AddDropDown(tool);
+    case ToolKind::Separator: addSeparator(); return;
+    case ToolKind::DropDown: return AddDropDown(tool);
     case ToolKind::Combo:
-    case ToolKind::Edit:
-        return AddBox(tool);
-    case ToolKind::Label:
-        return AddLabel(tool);
-    default:
-        return AddButton(tool);
+    case ToolKind::Edit: return AddBox(tool);
+    case ToolKind::Label: return AddLabel(tool);
+    default: return AddButton(tool);
     }
 }
 
 void BarView::AddButton(Tool& tool)
 {
+    if (oneRow_)
+        actions_.KeepOneLine(tool);
     QAction* action = actions_.Of(tool);
     addAction(action);
     auto* button = qobject_cast<QToolButton*>(widgetForAction(action));
     button->setFocusPolicy(Qt::NoFocus);
-    if (oneRow_) // where no caption needs two lines
-        connect(action, &QAction::changed, button,
-                [button, &tool] { button->setText(Plain_Caption(tool.Caption)); });
     new Binding(binder_.Queue(), *button, tool.Changed, [=, this, &tool](const PropSet& changed) {
         if (changed.Has({Prop::Style, Prop::Picture}))
             button->setToolButtonStyle(Look_Of(tool, *action, oneRow_));
@@ -209,8 +202,8 @@ void ArrowButton::mousePressEvent(QMouseEvent* event)
 {
     QStyleOptionToolButton option;
     initStyleOption(&option);
-    const QRect arrow = style()->subControlRect(QStyle::CC_ToolButton, &option,
-                                                QStyle::SC_ToolButtonMenu, this);
+    const QRect arrow =
+        style()->subControlRect(QStyle::CC_ToolButton, &option, QStyle::SC_ToolButtonMenu, this);
     if (event->button() == Qt::LeftButton && arrow.contains(event->pos()))
         emit ArrowPressed();
     else

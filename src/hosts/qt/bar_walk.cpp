@@ -115,24 +115,19 @@ bool BarWalk::KeyInBar(BarView& bar, QWidget& receiver, QKeyEvent& event)
 {
     switch (event.key()) {
     case Qt::Key_Left:
-    case Qt::Key_Right:
-        Step(bar, receiver, event.key() == Qt::Key_Left);
-        return true;
+    case Qt::Key_Right: Step(bar, receiver, event.key() == Qt::Key_Left); return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
         GoBack();
         qobject_cast<QToolButton*>(&receiver)->click();
         return true;
-    case Qt::Key_Escape:
-        GoBack();
-        return true;
+    case Qt::Key_Escape: GoBack(); return true;
     case Qt::Key_Down:
         if (auto* arrow = qobject_cast<ArrowButton*>(&receiver))
             emit arrow->ArrowPressed();
         return true;
-    default:
-        return false;
+    default: return false;
     }
 }
 

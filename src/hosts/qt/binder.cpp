@@ -189,7 +189,10 @@ void Binder::Bind(QProgressBar& bar, ProgressBar& progress)
 void Binder::Bind(Timer& timer)
 {
     auto* clock = new QTimer(&window_);
-    connect(clock, &QTimer::timeout, this, [&timer] { timer.Tick(); });
+    connect(clock, &QTimer::timeout, this, [&timer] {
+        if (timer.Enabled) // it may have been switched off in this very frame
+            timer.Tick();
+    });
     new Binding(queue_, *clock, timer.Changed, [clock, &timer](const PropSet& changed) {
         const bool runs = timer.Enabled && timer.Interval > 0;
         if (changed.Has({Prop::Range}))

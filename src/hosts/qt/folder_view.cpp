@@ -117,14 +117,10 @@ QVariant FolderModel::data(const QModelIndex& index, int role) const
         return {};
     const FolderNode& node = *NodeOf(index);
     switch (role) {
-    case Qt::DisplayRole:
-        return ToQtLine(node.Caption);
-    case Qt::DecorationRole:
-        return folder_;
-    case Qt::ToolTipRole:
-        return ToQtLine(node.Path);
-    default:
-        return {};
+    case Qt::DisplayRole: return ToQtLine(node.Caption);
+    case Qt::DecorationRole: return folder_;
+    case Qt::ToolTipRole: return ToQtLine(node.Path);
+    default: return {};
     }
 }
 

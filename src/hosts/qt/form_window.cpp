@@ -4,9 +4,12 @@
 #include "hosts/qt/qt_text.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tavo {
@@ -31,6 +34,15 @@ WindowState State_Of(const QWidget& window)
                                                          : WindowState::Normal;
 }
 
+// A place kept from a screen that is there no more would be out of sight.
+bool IsOnAScreen(const QRect& place)
+{
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+        return screen->availableGeometry().intersects(place);
+    });
+}
+
 } // namespace
 
 FormWindow::FormWindow(Form& form, QWidget& window, FrameQueue& queue)
@@ -40,8 +52,7 @@ FormWindow::FormWindow(Form& form, QWidget& window, FrameQueue& queue)
     window.resize(shown_.size());
     window.installEventFilter(this);
     unloaded_ = form.Unloaded.Listen([&window] { window.hide(); });
-    new Binding(queue, window, form.Changed,
-                [this](const PropSet& changed) { Show(changed); });
+    new Binding(queue, window, form.Changed, [this](const PropSet& changed) { Show(changed); });
 }
 
 void FormWindow::Show(const PropSet& changed)
@@ -67,7 +78,8 @@ void FormWindow::ShowPlace()
     const QRect place = Place_Of(form_);
     if (place.size() != shown_.size() && place.size() != window_.size())
         window_.resize(place.size());
-    if (place.topLeft() != shown_.topLeft() && place.topLeft() != window_.pos())
+    const bool moved = place.topLeft() != shown_.topLeft() && place.topLeft() != window_.pos();
+    if (moved && IsOnAScreen(place))
         window_.move(place.topLeft());
     shown_ = place;
 }
@@ -83,6 +95,7 @@ void FormWindow::TellPlace()
 {
     if (taking_ || !window_.isVisible() || window_.isMinimized())
         return;
+    TellState(); // else the size of a maximised window is taken for the normal one
     const QScopedValueRollback<bool> taking(taking_, true);
     form_.PersonMove(window_.x() * twipsPerPixel, window_.y() * twipsPerPixel);
     form_.PersonResize(window_.width() * twipsPerPixel, window_.height() * twipsPerPixel);
@@ -91,8 +104,18 @@ void FormWindow::TellPlace()
 
 void FormWindow::TellState()
 {
-    if (!taking_)
-        form_.PersonState(State_Of(window_));
+    const WindowState state = State_Of(window_);
+    if (taking_ || state == form_.State())
+        return;
+    const QRect normal = window_.normalGeometry();
+    form_.PersonState(state);
+    if (state != WindowState::Maximised || !normal.isValid())
+        return;
+    // It may have grown before it said why.
+    const QScopedValueRollback<bool> taking(taking_, true);
+    form_.Move(form_.Left(), form_.Top(), normal.width() * twipsPerPixel,
+               normal.height() * twipsPerPixel);
+    shown_ = Place_Of(form_);
 }
 
 // A form may keep itself, or be busy and go later.
@@ -107,12 +130,8 @@ bool FormWindow::eventFilter(QObject*, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Move:
-    case QEvent::Resize:
-        TellPlace();
-        return false;
-    case QEvent::WindowStateChange:
-        TellState();
-        return false;
+    case QEvent::Resize: TellPlace(); return false;
+    case QEvent::WindowStateChange: TellState(); return false;
     case QEvent::WindowActivate:
     case QEvent::WindowDeactivate:
         form_.PersonActivate(event->type() == QEvent::WindowActivate);
@@ -122,8 +141,7 @@ bool FormWindow::eventFilter(QObject*, QEvent* event)
             return false;
         event->ignore();
         return true;
-    default:
-        return false;
+    default: return false;
     }
 }
 

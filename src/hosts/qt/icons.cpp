@@ -53,8 +53,7 @@ public:
         return scaledPixmap(size, mode, state, 1);
     }
 
-    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state,
-                         qreal) override
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal) override
     {
         const QString key = Key(size, mode);
         QPixmap picture;
@@ -113,9 +112,8 @@ private:
 bool Theme_DrawsAll()
 {
     const QStringList drawings = QDir(folderOfDrawings).entryList({"*.svg"});
-    return std::all_of(drawings.begin(), drawings.end(), [](const QString& file) {
-        return QIcon::hasThemeIcon(file.chopped(4));
-    });
+    return std::all_of(drawings.begin(), drawings.end(),
+                       [](const QString& file) { return QIcon::hasThemeIcon(file.chopped(4)); });
 }
 
 } // namespace

@@ -14,12 +14,12 @@ struct NamedKey {
 };
 
 constexpr NamedKey namedKeys[] = {
-    {Qt::Key_Return, "Return"},     {Qt::Key_Enter, "Return"},   {Qt::Key_Escape, "Escape"},
-    {Qt::Key_Backspace, "Backspace"}, {Qt::Key_Tab, "Tab"},      {Qt::Key_Backtab, "Tab"},
-    {Qt::Key_Space, "Space"},       {Qt::Key_Delete, "Delete"},  {Qt::Key_Up, "Up"},
-    {Qt::Key_Down, "Down"},         {Qt::Key_Left, "Left"},      {Qt::Key_Right, "Right"},
-    {Qt::Key_Home, "Home"},         {Qt::Key_End, "End"},        {Qt::Key_PageUp, "PageUp"},
-    {Qt::Key_PageDown, "PageDown"}, {Qt::Key_F5, "F5"},          {Qt::Key_F6, "F6"},
+    {Qt::Key_Return, "Return"},       {Qt::Key_Enter, "Return"},  {Qt::Key_Escape, "Escape"},
+    {Qt::Key_Backspace, "Backspace"}, {Qt::Key_Tab, "Tab"},       {Qt::Key_Backtab, "Tab"},
+    {Qt::Key_Space, "Space"},         {Qt::Key_Delete, "Delete"}, {Qt::Key_Up, "Up"},
+    {Qt::Key_Down, "Down"},           {Qt::Key_Left, "Left"},     {Qt::Key_Right, "Right"},
+    {Qt::Key_Home, "Home"},           {Qt::Key_End, "End"},       {Qt::Key_PageUp, "PageUp"},
+    {Qt::Key_PageDown, "PageDown"},   {Qt::Key_F5, "F5"},         {Qt::Key_F6, "F6"},
 };
 
 struct NamedShift {
@@ -43,7 +43,7 @@ std::string PlainName(const QKeyEvent& event, bool typesNothing)
     const int code = event.key();
     if (typesNothing)
         return code > Qt::Key_Space && code < Qt::Key_Escape ? FromQt(QString(QChar(code)))
-                                                            : std::string();
+                                                             : std::string();
     const QString text = event.text();
     return Chars_In(text) == 1 ? FromQt(text) : std::string();
 }

@@ -20,9 +20,8 @@ ListModel::ListModel(ListView& list, FrameQueue& queue, QObject* parent)
 {
     for (std::size_t i = 0; i < classLetters.size(); ++i)
         icons_[i] = Icon_OfClass(classLetters.substr(i, 1));
-    binding_ = new Binding(queue, *this, none_, [this](const PropSet& changed) {
-        Follow(changed);
-    });
+    binding_ =
+        new Binding(queue, *this, none_, [this](const PropSet& changed) { Follow(changed); });
     list_.SetObserver(this);
 }
 
@@ -46,19 +45,17 @@ QVariant ListModel::data(const QModelIndex& index, int role) const
     const int position = index.row() + 1;
     const int column = index.column();
     switch (role) {
-    case Qt::DisplayRole:
-        return ToQtLine(list_.Cell(position, column));
+    case Qt::DisplayRole: return ToQtLine(list_.Cell(position, column));
     case Qt::DecorationRole: {
         const std::string_view icon = list_.SmallIcon(position);
         const auto at = icon.empty() ? classLetters.npos : classLetters.find(icon[0]);
         return column == 0 && at != classLetters.npos ? QVariant(icons_[at]) : QVariant();
     }
     case Qt::TextAlignmentRole:
-        return static_cast<int>(Qt::AlignVCenter
-                                | (list_.Column(column).RightAligned ? Qt::AlignRight
-                                                                     : Qt::AlignLeft));
-    default:
-        return {};
+        return static_cast<int>(
+            Qt::AlignVCenter
+            | (list_.Column(column).RightAligned ? Qt::AlignRight : Qt::AlignLeft));
+    default: return {};
     }
 }
 

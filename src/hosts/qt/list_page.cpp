@@ -24,9 +24,7 @@ constexpr int packedColumnChars = 28;
 // empty. The row in hand gets its mark in the first column only.
 class RowPainter : public QStyledItemDelegate {
 public:
-    RowPainter(const ListView& list, QObject* parent) : QStyledItemDelegate(parent), list_(list)
-    {
-    }
+    RowPainter(const ListView& list, QObject* parent) : QStyledItemDelegate(parent), list_(list) {}
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
@@ -35,8 +33,9 @@ protected:
         const auto* view = qobject_cast<const QWidget*>(option->styleObject);
         option->state.setFlag(QStyle::State_Selected, list_.Selected(index.row() + 1));
         option->state.setFlag(QStyle::State_Active, view && view->hasFocus());
+        option->state.setFlag(QStyle::State_MouseOver, false); // rows, not cells, are picked
         option->textElideMode = Qt::ElideMiddle;
-        if (index.column() > 0)
+        if (index.column() > 0 || index.row() + 1 != list_.SelectedItem())
             option->state.setFlag(QStyle::State_HasFocus, false);
     }
 
@@ -102,8 +101,8 @@ ListPage::ListPage(ListView& list, Binder& binder, QWidget* parent)
 
 void ListPage::Build()
 {
-    for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(details_),
-                                    static_cast<QAbstractItemView*>(packed_)}) {
+    for (QAbstractItemView* view :
+         {static_cast<QAbstractItemView*>(details_), static_cast<QAbstractItemView*>(packed_)}) {
         addWidget(view);
         Prepare(*view, *model_);
     }
@@ -135,6 +134,8 @@ void ListPage::Build()
 void ListPage::FitRows()
 {
     const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    details_->setIconSize({icon, icon});
+    packed_->setIconSize({icon, icon});
     const int height = std::max(fontMetrics().height(), icon) + rowPadding;
     details_->verticalHeader()->setMinimumSectionSize(height);
     details_->verticalHeader()->setDefaultSectionSize(height);
@@ -163,8 +164,8 @@ void ListPage::ShowMarks()
 void ListPage::FollowItem()
 {
     const QModelIndex item = model_->index(list_.SelectedItem() - 1, 0);
-    for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(details_),
-                                    static_cast<QAbstractItemView*>(packed_)})
+    for (QAbstractItemView* view :
+         {static_cast<QAbstractItemView*>(details_), static_cast<QAbstractItemView*>(packed_)})
         view->selectionModel()->setCurrentIndex(item, QItemSelectionModel::NoUpdate);
     if (item.isValid() && hasFocus())
         ShowPosition(list_.SelectedItem());

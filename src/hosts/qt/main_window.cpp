@@ -92,7 +92,7 @@ void MainWindow::BuildScreens()
     QWidget* screens = centralWidget();
     auto* select = new QWidget(screens);
     binder_->Place(*select, form_.fraSelect);
-    tree_ = new FolderView(form_.ftvSelMain, *binder_, select);
+    new FolderView(form_.ftvSelMain, *binder_, select);
     binder_->AddHome(*new ListPage(form_.lsvSelMain, *binder_, select));
     auto* preview = new QFrame(select);
     preview->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -180,14 +180,6 @@ void MainWindow::changeEvent(QEvent* event)
         TellHeights();
         form_.Resize();
     }
-}
-
-// Before anybody has gone anywhere the tree has the keys.
-void MainWindow::showEvent(QShowEvent* event)
-{
-    QMainWindow::showEvent(event);
-    if (!form_.ActiveControl())
-        tree_->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace tavo

@@ -15,7 +15,6 @@ class BarWalk;
 class FormWindow;
 class FrmMain;
 class ListPage;
-class FolderView;
 class PersonInput;
 class PictureStore;
 class StatusPanels;
@@ -41,7 +40,6 @@ protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     void BuildBars();
@@ -60,7 +58,6 @@ private:
     BarWalk* walk_ = nullptr;
     std::vector<BarView*> bars_;
     StatusPanels* status_ = nullptr;
-    FolderView* tree_ = nullptr;
     std::vector<std::pair<Frame*, QWidget*>> panels_; // with what they hold
     Connection bandChanged_;
 };

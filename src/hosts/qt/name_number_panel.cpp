@@ -17,7 +17,7 @@ namespace tavo {
 
 namespace {
 
-constexpr int extensionChars = 14, startChars = 10, digitsChars = 4, rowGap = 6, groupGap = 18;
+constexpr int extensionChars = 14, startChars = 8, digitsChars = 4, rowGap = 6, groupGap = 18;
 constexpr int linkPadding = 6;
 constexpr int firstTagToken = 4; // the tokens behind it stand for parts of a tag
 
@@ -25,7 +25,8 @@ QLineEdit* Box(QWidget* parent, int chars)
 {
     auto* box = new QLineEdit(parent);
     if (chars > 0)
-        box->setFixedWidth(chars * box->fontMetrics().averageCharWidth() + box->sizeHint().height());
+        box->setFixedWidth(chars * box->fontMetrics().averageCharWidth()
+                           + box->sizeHint().height());
     return box;
 }
 
@@ -51,6 +52,12 @@ LinkButton* BoundLink(QWidget* parent, Label& label, Binder& binder, int padding
     return link;
 }
 
+// Room between two groups that a narrow window may take.
+void AddGap(QHBoxLayout& row)
+{
+    row.addSpacerItem(new QSpacerItem(groupGap, 0, QSizePolicy::Maximum, QSizePolicy::Minimum));
+}
+
 // The first captions of all rows begin and end where the widest one does.
 void Align(std::initializer_list<QWidget*> captions)
 {
@@ -63,8 +70,7 @@ void Align(std::initializer_list<QWidget*> captions)
 
 } // namespace
 
-NameNumberPanel::NameNumberPanel(FrmMain& form, Binder& binder, QWidget* parent)
-    : QWidget(parent)
+NameNumberPanel::NameNumberPanel(FrmMain& form, Binder& binder, QWidget* parent) : QWidget(parent)
 {
     auto* column = new QVBoxLayout(this);
     column->setSpacing(rowGap);
@@ -103,11 +109,15 @@ QWidget* NameNumberPanel::Inserts(FrmMain& form, Binder& binder)
     auto* holder = new QWidget(this);
     auto* row = Row(*holder);
     row->addWidget(BoundLabel(holder, form.lblTmpInsert[0], binder));
-    row->addSpacing(rowGap - linkPadding + style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
+    row->addSpacing(rowGap - linkPadding
+                    + style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
     for (int index = 1; index <= form.lblTmpInsert.High(); ++index) {
         if (index == firstTagToken || index == tmplCurrentLabel)
-            row->addSpacing(groupGap);
-        row->addWidget(BoundLink(holder, form.lblTmpInsert[index], binder, linkPadding));
+            AddGap(*row);
+        auto* link = BoundLink(holder, form.lblTmpInsert[index], binder, linkPadding);
+        if (index == tmplCurrentLabel) // a template may have a long name
+            link->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+        row->addWidget(link);
     }
     row->addStretch();
     row->setSpacing(0);
@@ -124,13 +134,12 @@ QWidget* NameNumberPanel::Counter(FrmMain& form, Binder& binder)
         auto* box = Box(holder, widths[index - nnStartBox]);
         binder.Bind(*box, form.txtNameNum[index]);
         row->addWidget(box);
-        row->addSpacing(groupGap);
+        AddGap(*row);
     }
     row->addWidget(BoundLabel(holder, form.lblNNStyle, binder));
     for (const auto& option : form.optNNStyle) {
         auto* button = new QRadioButton(holder);
         binder.Bind(*button, *option);
-        row->addSpacing(rowGap);
         row->addWidget(button);
     }
     row->addStretch();

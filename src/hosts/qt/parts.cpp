@@ -110,8 +110,8 @@ void StatusPanels::ShowTexts()
 {
     for (int number = 1; number <= bar_.PanelCount(); ++number) {
         const bool hidden = number == middlePanel && !tip_.isEmpty();
-        panels_[static_cast<std::size_t>(number - 1)]->setText(hidden ? tip_
-                                                                      : ToQtLine(bar_.Panel(number)));
+        panels_[static_cast<std::size_t>(number - 1)]->setText(
+            hidden ? tip_ : ToQtLine(bar_.Panel(number)));
     }
 }
 
@@ -143,8 +143,10 @@ void LinkButton::paintEvent(QPaintEvent*)
     painter.setFont(look);
     painter.setPen(isEnabled() ? Accent_Colour()
                                : colours.color(QPalette::Disabled, QPalette::WindowText));
-    painter.drawText(rect().adjusted(padding_, 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+    const QRect room = rect().adjusted(padding_, 0, 0, 0);
+    const QString shown =
+        fontMetrics().elidedText(text(), Qt::ElideRight, room.width(), Qt::TextShowMnemonic);
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, shown);
 }
 
 } // namespace tavo

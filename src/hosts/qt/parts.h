@@ -80,6 +80,8 @@ public:
     LinkButton(int padding, QWidget* parent);
 
     QSize sizeHint() const override;
+    // Where its size may shrink, its text is cut with dots.
+    QSize minimumSizeHint() const override { return {2 * padding_, sizeHint().height()}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -45,8 +45,8 @@ bool Control_Takes(const Control& control, const Key& key)
     if (dynamic_cast<const TextBox*>(&control))
         return Box_Takes(key);
     // Rows are searched for by their first letters.
-    const bool rows = dynamic_cast<const ListView*>(&control)
-                      || dynamic_cast<const FolderTree*>(&control);
+    const bool rows =
+        dynamic_cast<const ListView*>(&control) || dynamic_cast<const FolderTree*>(&control);
     return !rows || !IsPrintable(key);
 }
 
@@ -65,12 +65,9 @@ bool PersonInput::eventFilter(QObject* object, QEvent* event)
     if (widget.window() != &binder_.Window())
         return false;
     switch (event->type()) {
-    case QEvent::KeyPress:
-        return KeyPressed(widget, static_cast<QKeyEvent&>(*event));
+    case QEvent::KeyPress: return KeyPressed(widget, static_cast<QKeyEvent&>(*event));
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        binder_.Queue().Flush();
-        return Pressed(widget);
+    case QEvent::MouseButtonDblClick: binder_.Queue().Flush(); return Pressed(widget);
     case QEvent::FocusIn:
         if (static_cast<QFocusEvent*>(event)->reason() == Qt::ShortcutFocusReason)
             Enter(widget);
@@ -79,8 +76,7 @@ bool PersonInput::eventFilter(QObject* object, QEvent* event)
     case QEvent::Wheel:
         // Else a list that is scrolled under the pointer changes a choice.
         return qobject_cast<QComboBox*>(object) && !widget.hasFocus();
-    default:
-        return false;
+    default: return false;
     }
 }
 
@@ -109,8 +105,9 @@ bool PersonInput::Pressed(QWidget& receiver)
 
 bool PersonInput::KeyPressed(QWidget& receiver, QKeyEvent& event)
 {
-    const QWidget* focus = binder_.Window().focusWidget();
-    const bool propagated = &receiver != (focus ? focus : &binder_.Window());
+    const QWidget* focus = QApplication::focusWidget();
+    const bool mine = focus && focus->window() == &binder_.Window();
+    const bool propagated = &receiver != (mine ? focus : &binder_.Window());
     if (propagated)
         return false;
     if (BarKey && BarKey(receiver, event))

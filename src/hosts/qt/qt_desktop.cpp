@@ -57,12 +57,9 @@ constexpr ButtonRow buttons[] = {
 BoxAnswer Closed_Answer(const MessageBox& box)
 {
     switch (box.Buttons) {
-    case BoxButtons::OkCancel:
-        return BoxAnswer::Cancel;
-    case BoxButtons::YesNo:
-        return BoxAnswer::No;
-    default:
-        return BoxAnswer::Ok;
+    case BoxButtons::OkCancel: return BoxAnswer::Cancel;
+    case BoxButtons::YesNo: return BoxAnswer::No;
+    default: return BoxAnswer::Ok;
     }
 }
 

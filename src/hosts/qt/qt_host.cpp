@@ -36,8 +36,8 @@ QtHost::QtHost(const StartInfo& info)
     unloaded_ = program_.main.Unloaded.Listen([] { QCoreApplication::quit(); });
     // When Qt is about to wait for events and no call of the program is under
     // way, its commands have all come back.
-    QObject::connect(QAbstractEventDispatcher::instance(),
-                     &QAbstractEventDispatcher::aboutToBlock, &window_, [this] {
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                     &window_, [this] {
                          if (!desktop_.IsInside())
                              program_.Settle();
                      });

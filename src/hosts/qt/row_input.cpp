@@ -39,23 +39,17 @@ RowInput::RowInput(QAbstractItemView& view, ListView& list)
 bool RowInput::eventFilter(QObject*, QEvent* event)
 {
     switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        return Press(static_cast<QMouseEvent&>(*event));
+    case QEvent::MouseButtonPress: return Press(static_cast<QMouseEvent&>(*event));
     case QEvent::MouseButtonDblClick:
         Press(static_cast<QMouseEvent&>(*event));
         list_.DblClick();
         return true;
-    case QEvent::MouseMove:
-        return Move(static_cast<QMouseEvent&>(*event));
-    case QEvent::MouseButtonRelease:
-        return Release(static_cast<QMouseEvent&>(*event));
+    case QEvent::MouseMove: return Move(static_cast<QMouseEvent&>(*event));
+    case QEvent::MouseButtonRelease: return Release(static_cast<QMouseEvent&>(*event));
     case QEvent::DragEnter:
-    case QEvent::DragMove:
-        return DragOver(static_cast<QDropEvent&>(*event));
-    case QEvent::Drop:
-        return Drop(static_cast<QDropEvent&>(*event));
-    default:
-        return false;
+    case QEvent::DragMove: return DragOver(static_cast<QDropEvent&>(*event));
+    case QEvent::Drop: return Drop(static_cast<QDropEvent&>(*event));
+    default: return false;
     }
 }
 
@@ -155,8 +149,8 @@ bool RowInput::Drop(QDropEvent& event)
     if (from && from->isAncestorOf(&view_))
         list_.FilesDropped(paths);
     else
-        QMetaObject::invokeMethod(this, [this, paths] { list_.FilesDropped(paths); },
-                                  Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, paths] { list_.FilesDropped(paths); }, Qt::QueuedConnection);
     return true;
 }
 

@@ -39,16 +39,14 @@ QString Shortcut_Text(const Key& key)
 
 // A long caption takes two lines on a button; a short one leaves the second
 // empty, so that all pictures of a bar stand at one height.
-QString Button_Text(const std::string& caption)
+QString InTwoLines(QString text)
 {
     constexpr int longestLine = 9;
-    QString text = Plain_Caption(caption);
     const qsizetype blank = text.lastIndexOf(' ');
-    if (text.size() > longestLine && blank > 0)
-        text[blank] = '\n';
-    else
-        text += "\n ";
-    return text.replace('&', "&&");
+    if (text.size() <= longestLine || blank <= 0)
+        return text + "\n ";
+    text[blank] = '\n';
+    return text;
 }
 
 bool StandsOnABand(const ToolBars& bars, const Tool* tool)
@@ -78,16 +76,17 @@ QAction* ToolActions::Of(Tool& tool)
 
 QAction* ToolActions::Make(Tool& tool)
 {
-    QAction* action = tool.Kind() == ToolKind::Menu ? MenuOf(tool)->menuAction()
-                                                    : new QAction(&window_);
+    QAction* action =
+        tool.Kind() == ToolKind::Menu ? MenuOf(tool)->menuAction() : new QAction(&window_);
     action->setObjectName(ToQt(tool.Name()));
     if (tool.Kind() == ToolKind::Separator) {
         action->setSeparator(true);
         return action;
     }
-    auto* binding = new Binding(
-        queue_, *action, tool.Changed,
-        [this, action, &tool](const PropSet& changed) { Show(*action, tool, changed); });
+    auto* binding =
+        new Binding(queue_, *action, tool.Changed, [this, action, &tool](const PropSet& changed) {
+            Show(*action, tool, changed);
+        });
     connect(action, &QAction::triggered, this, [this, &tool, binding] {
         binding->Mark(Prop::Value); // Qt has ticked it already
         QStatusTipEvent noTip{QString()};
@@ -103,7 +102,9 @@ void ToolActions::Show(QAction& action, const Tool& tool, const PropSet& changed
     if (changed.Has({Prop::Caption})) {
         const bool hasKey = tool.Shortcut.Code != keyNone;
         action.setText(ToQt(tool.Caption) + (hasKey ? "\t" + Shortcut_Text(tool.Shortcut) : ""));
-        action.setIconText(Button_Text(tool.Caption));
+        const QString plain = Plain_Caption(tool.Caption);
+        QString text = oneLine_.contains(&tool) ? plain : InTwoLines(plain);
+        action.setIconText(text.replace('&', "&&"));
     }
     if (changed.Has({Prop::Caption, Prop::ToolTip}))
         action.setToolTip(tool.ToolTipText.Get().empty() ? Plain_Caption(tool.Caption)

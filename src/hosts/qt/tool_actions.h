@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 
 class QAction;
 class QWidget;
@@ -22,6 +23,8 @@ public:
 
     // Of a button, toggle, menu or separator.
     QAction* Of(Tool& tool);
+    // To be said before the first Of: on buttons its caption stands in one line.
+    void KeepOneLine(const Tool& tool) { oneLine_.insert(&tool); }
     // The menu of a menu tool; it follows its band.
     QMenu* MenuOf(Tool& tool);
     // Puts the tools of a band into a menu bar or menu, in place of what it
@@ -42,6 +45,7 @@ private:
     QWidget& window_;
     QHash<const Tool*, QPointer<QAction>> actions_;
     QHash<const Tool*, QPointer<QMenu>> menus_;
+    QSet<const Tool*> oneLine_;
     QHash<const Band*, QPointer<Binding>> fillings_;
     Event<Prop> never_; // bands tell of themselves
     Connection connection_;
