@@ -1,58 +1,15 @@
 #include "platform/profile_text.h"
 
-#include "toolkit/code_page.h"
 #include "toolkit/text.h"
-#include "toolkit/utf8.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace tavo {
 
 namespace {
 
-constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
-constexpr std::string_view utf16Mark = "\xFF\xFE";
 constexpr std::string_view blanks = " \t";
-constexpr char32_t replacement = 0xFFFD;
-
-bool IsUtf8(std::string_view text)
-{
-    for (std::size_t pos = AsciiPrefix(text); pos < text.size();) {
-        if (NextChar(text, pos).IsStray())
-            return false;
-    }
-    return true;
-}
-
-bool IsHighSurrogate(char32_t unit)
-{
-    return unit >= 0xD800 && unit < 0xDC00;
-}
-
-bool IsLowSurrogate(char32_t unit)
-{
-    return unit >= 0xDC00 && unit < 0xE000;
-}
-
-std::string Utf8FromUtf16(std::string_view bytes)
-{
-    const auto unitAt = [bytes](std::size_t pos) -> char32_t {
-        return static_cast<unsigned char>(bytes[pos])
-               | static_cast<char32_t>(static_cast<unsigned char>(bytes[pos + 1])) << 8;
-    };
-    std::string text;
-    for (std::size_t pos = 0; pos + 1 < bytes.size(); pos += 2) {
-        char32_t code = unitAt(pos);
-        const char32_t next = pos + 3 < bytes.size() ? unitAt(pos + 2) : 0;
-        if (IsHighSurrogate(code) && IsLowSurrogate(next)) {
-            code = 0x10000 + ((code - 0xD800) << 10) + (next - 0xDC00);
-            pos += 2;
-        } else if (IsHighSurrogate(code) || IsLowSurrogate(code))
-            code = replacement;
-        AppendChar(text, code);
-    }
-    return text;
-}
 
 void ReadSection(std::string_view text, ProfileText::Line& line)
 {
@@ -74,72 +31,122 @@ void ReadKey(std::string_view text, ProfileText::Line& line)
     line.Value = TrimProfileText(value.substr(0, value.find('\0')));
 }
 
-// Sets kind, name and value from the line's bytes.
-void ReadLine(ProfileText::Line& line)
+// Sets kind, names and value from the text of the line.
+void ReadLine(std::string_view text, ProfileText::Line& line)
 {
-    const std::string converted = IsUtf8(line.Text) ? std::string() : Cp1252ToUtf8(line.Text);
-    const std::string_view text = TrimProfileText(converted.empty() ? line.Text : converted);
+    text = TrimProfileText(text);
     if (text.empty() || text.front() == ';')
         return;
     if (text.front() == '[')
         ReadSection(text, line);
     if (line.Kind == ProfileText::LineKind::Other)
         ReadKey(text, line);
+    line.Folded = FoldCase(line.Name);
+}
+
+// Where the first CR or LF stands, or the size; units are of 1 or 2 bytes.
+std::size_t LineLength(std::string_view bytes, std::size_t unitBytes)
+{
+    std::size_t pos = bytes.find_first_of("\r\n");
+    while (unitBytes == 2 && pos < bytes.size()
+           && (pos % 2 != 0 || bytes.substr(pos + 1, 1) != std::string_view("\0", 1)))
+        pos = bytes.find_first_of("\r\n", pos + 1);
+    return std::min(pos, bytes.size());
+}
+
+// The bytes of the line end in front.
+std::size_t EndLength(std::string_view bytes, std::size_t unitBytes)
+{
+    const bool isPair = bytes.starts_with('\r')
+                        && LineLength(bytes.substr(unitBytes), unitBytes) == 0
+                        && bytes.substr(unitBytes).starts_with('\n');
+    return std::min(isPair ? 2 * unitBytes : unitBytes, bytes.size());
 }
 
 } // namespace
 
-ProfileText::ProfileText(std::string_view bytes)
+ProfileText::ProfileText(std::string_view bytes, ProfileDialect dialect)
+    : encoding_(bytes, dialect), lines_(LinesIn(bytes.substr(encoding_.Mark().size())))
 {
-    if (bytes.starts_with(utf16Mark))
-        AddLines(Utf8FromUtf16(bytes.substr(utf16Mark.size())));
+    if (dialect == ProfileDialect::Windows)
+        newLineEnd_ = encoding_.Encode("\r\n");
+    else if (lines_.empty() || lines_.front().End.empty())
+        newLineEnd_ = encoding_.Encode("\n");
     else
-        AddLines(bytes.substr(bytes.starts_with(utf8Mark) ? utf8Mark.size() : 0));
+        newLineEnd_ = lines_.front().End;
 }
 
-void ProfileText::AddLines(std::string_view text)
+std::string ProfileText::Bytes() const
 {
-    while (!text.empty()) {
-        const std::size_t length = std::min(text.find_first_of("\r\n"), text.size());
-        const std::string_view behind = text.substr(length);
-        const std::size_t endBytes =
-            std::min<std::size_t>(behind.starts_with("\r\n") ? 2 : 1, behind.size());
-        Line line;
-        line.Text = text.substr(0, length);
+    std::string bytes(encoding_.Mark());
+    for (const Line& line : lines_)
+        bytes.append(line.Text).append(line.End);
+    return bytes;
+}
+
+std::vector<ProfileText::Line> ProfileText::LinesIn(std::string_view bytes) const
+{
+    const std::size_t unitBytes = encoding_.UnitBytes();
+    std::vector<Line> lines;
+    std::string space;
+    while (!bytes.empty()) {
+        const std::size_t length = LineLength(bytes, unitBytes);
+        const std::string_view behind = bytes.substr(length);
+        const std::size_t endBytes = EndLength(behind, unitBytes);
+        Line& line = lines.emplace_back();
+        line.Text = bytes.substr(0, length);
         line.End = behind.substr(0, endBytes);
-        ReadLine(line);
-        folded_.push_back(FoldCase(line.Name));
-        lines_.push_back(std::move(line));
-        text = behind.substr(endBytes);
+        ReadLine(encoding_.Decode(line.Text, space), line);
+        bytes = behind.substr(endBytes);
     }
+    return lines;
 }
 
 ProfileText::Range ProfileText::LinesOf(std::string_view section) const
 {
     const std::string wanted = FoldCase(TrimProfileText(section));
-    std::size_t first = 0;
+    std::size_t header = 0, first = 0;
     if (!wanted.empty()) {
-        while (first < lines_.size()
-               && (lines_[first].Kind != LineKind::Section || folded_[first] != wanted))
-            ++first;
-        first = std::min(first + 1, lines_.size());
+        while (header < lines_.size()
+               && (lines_[header].Kind != LineKind::Section || lines_[header].Folded != wanted))
+            ++header;
+        if (header == lines_.size())
+            return {false, header, header, header};
+        first = header + 1;
     }
     std::size_t end = first;
     while (end < lines_.size() && lines_[end].Kind != LineKind::Section)
         ++end;
-    return {first, end};
+    return {true, header, first, end};
+}
+
+std::size_t ProfileText::FindKey(const Range& range, std::string_view key) const
+{
+    const std::string wanted = FoldCase(TrimProfileText(key));
+    std::size_t index = range.First;
+    while (index < range.End
+           && (lines_[index].Kind != LineKind::Key || lines_[index].Folded != wanted))
+        ++index;
+    return index;
+}
+
+std::size_t ProfileText::EndWithoutBlanks(const Range& range) const
+{
+    std::string space;
+    std::size_t end = range.End;
+    while (end > range.First
+           && TrimProfileText(encoding_.Decode(lines_[end - 1].Text, space)).empty())
+        --end;
+    return end;
 }
 
 std::optional<std::string> ProfileText::Value(std::string_view section, std::string_view key) const
 {
-    const std::string wanted = FoldCase(TrimProfileText(key));
     const Range range = LinesOf(section);
-    for (std::size_t index = range.First; index < range.End; ++index) {
-        const Line& line = lines_[index];
-        if (line.Kind == LineKind::Key && folded_[index] == wanted)
-            return std::string(WithoutQuotes(line.Value));
-    }
-    return std::nullopt;
+    const std::size_t index = FindKey(range, key);
+    if (index == range.End)
+        return std::nullopt;
+    return std::string(WithoutQuotes(lines_[index].Value));
 }
 
 std::vector<std::string> ProfileText::Keys(std::string_view section) const
@@ -151,6 +158,70 @@ std::vector<std::string> ProfileText::Keys(std::string_view section) const
             names.push_back(lines_[index].Name);
     }
     return names;
+}
+
+void ProfileText::Write(const ProfileChange& change)
+{
+    const std::string section = AsWritten(change.Section);
+    const Range range = LinesOf(section);
+    if (!change.Key)
+        return Replace(range.Header, range.End, {});
+    const std::string key = AsWritten(*change.Key);
+    const std::size_t index = FindKey(range, key);
+    const bool isThere = index < range.End;
+    if (!change.Value)
+        return Replace(index, isThere ? index + 1 : index, {});
+    const std::string value = AsWritten(*change.Value);
+    if (isThere)
+        return ChangeValue(index, value);
+    if (!range.IsThere)
+        Insert(lines_.size(), '[' + section + ']');
+    Insert(range.IsThere ? EndWithoutBlanks(range) : lines_.size(), key + '=' + value);
+}
+
+// The text as it will be read from the file.
+std::string ProfileText::AsWritten(std::string_view text) const
+{
+    text = text.substr(0, text.find('\0'));
+    const std::string bytes =
+        encoding_.Encode(text.substr(std::min(text.find_first_not_of(blanks), text.size())));
+    std::string space;
+    return std::string(encoding_.Decode(bytes, space));
+}
+
+void ProfileText::ChangeValue(std::size_t index, const std::string& value)
+{
+    if (lines_[index].Value == value)
+        return;
+    std::string space;
+    const std::string_view text = encoding_.Decode(lines_[index].Text, space);
+    const std::size_t behindSign = text.find('=') + 1;
+    const std::size_t start = std::min(text.find_first_not_of(blanks, behindSign), text.size());
+    const std::string changed = std::string(text.substr(0, start)) + value;
+    Replace(index, index + 1, encoding_.Encode(changed) + lines_[index].End);
+}
+
+// Inserts text as a new line, which needs a line end before it.
+void ProfileText::Insert(std::size_t index, const std::string& text)
+{
+    if (index > 0 && lines_[index - 1].End.empty()) {
+        Line& above = lines_[index - 1];
+        // Half a unit of UTF-16 would shift all that comes behind it.
+        above.Text.resize(above.Text.size() - above.Text.size() % encoding_.UnitBytes());
+        above.End = newLineEnd_;
+    }
+    Replace(index, index, encoding_.Encode(text) + newLineEnd_);
+}
+
+void ProfileText::Replace(std::size_t first, std::size_t end, std::string_view bytes)
+{
+    std::vector<Line> lines = LinesIn(bytes);
+    const auto same = static_cast<std::ptrdiff_t>(std::min(end - first, lines.size()));
+    const auto from = lines.begin() + same;
+    const auto to =
+        std::move(lines.begin(), from, lines_.begin() + static_cast<std::ptrdiff_t>(first));
+    const auto behind = lines_.erase(to, lines_.begin() + static_cast<std::ptrdiff_t>(end));
+    lines_.insert(behind, std::move_iterator(from), std::move_iterator(lines.end()));
 }
 
 std::string ProfileAnswer(const ProfileText& text, const std::string& section,

@@ -30,7 +30,8 @@ std::string AppFolder_Of(MemoryDisk& disk)
 ListGround::ListGround(Files& files, const std::string& appFolder)
     : P(files, Settings, Desktop, {appFolder, ""}), Main(P.main), List(P.main.lsvRename)
 {
-    Settings.SetText(appFolder + "Default.ini", "[Defaults]\nnnAutoFill=0\n[Settings]\nShowFile=0\n");
+    Settings.SetText(appFolder + "Default.ini",
+                     "[Defaults]\nnnAutoFill=0\n[Settings]\nShowFile=0\n");
     P.Start();
 }
 

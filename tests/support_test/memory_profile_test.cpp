@@ -32,4 +32,20 @@ TEST(MemoryProfile, Texts_come_and_go)
     EXPECT_FALSE(profile.Text("/a.ini").has_value());
 }
 
+TEST(MemoryProfile, Is_written_in_its_dialect)
+{
+    for (const auto dialect : {ProfileDialect::Linux, ProfileDialect::Windows}) {
+        const bool isWindows = dialect == ProfileDialect::Windows;
+        MemoryProfile profile(dialect);
+        EXPECT_TRUE(profile.WritePrivateProfileStringA("S", "k", "\u00e4", "a.ini"));
+        EXPECT_EQ(profile.Text("a.ini"), isWindows ? "[S]\r\nk=\xE4\r\n" : "[S]\nk=\u00e4\n");
+        EXPECT_EQ(profile.GetPrivateProfileStringA("S", "k", "", 9, "a.ini"), "\u00e4");
+        EXPECT_EQ(profile.Saves(), 1);
+        ProfileSave save(profile, "b.ini");
+        profile.WritePrivateProfileStringA("S", "k", "1", "b.ini");
+        EXPECT_TRUE(save.End());
+        EXPECT_EQ(profile.Text("b.ini"), isWindows ? "[S]\r\nk=1\r\n" : "[S]\nk=1\n");
+    }
+}
+
 } // namespace tavo

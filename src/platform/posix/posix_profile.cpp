@@ -56,18 +56,29 @@ const ProfileText* PosixProfile::Read(const std::string& file)
     }
     kept.Of = *state;
     kept.Trusted = state->Changed < now - settledAfter;
-    kept.Text = ProfileText(bytes);
+    // Right after a save the file is read again and again, and is the same.
+    if (bytes != kept.Bytes) {
+        kept.Text = ProfileText(bytes);
+        kept.Bytes = std::move(bytes);
+    }
     return &kept.Text;
 }
 
-std::string PosixProfile::GetPrivateProfileStringA(const std::string& section,
-                                                   std::optional<std::string> key,
-                                                   const std::string& fallback, int size,
-                                                   const std::string& file)
+const ProfileText& PosixProfile::TextOf(const std::string& file)
 {
-    const ProfileText nothing;
     const ProfileText* text = Read(file);
-    return ProfileAnswer(text ? *text : nothing, section, key, fallback, size);
+    return text ? *text : nothing_;
+}
+
+bool PosixProfile::Apply(const std::string& file, const std::vector<ProfileChange>& changes)
+{
+    const auto change = [&changes](const std::string& bytes) {
+        ProfileText text(bytes);
+        for (const ProfileChange& one : changes)
+            text.Write(one);
+        return text.Bytes();
+    };
+    return ChangeFile(*disk_, file, change) == 0;
 }
 
 } // namespace tavo

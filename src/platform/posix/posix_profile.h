@@ -1,21 +1,31 @@
 #pragma once
 
-#include "platform/profile.h"
-#include "platform/profile_text.h"
+#include "platform/collecting_profile.h"
+#include "platform/posix/file_edit.h"
 
 #include <cstdint>
 #include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace tavo {
 
 // Settings files on Linux. Each call sees the file as it is at that moment;
 // what was taken from it is kept only as long as nothing shows that it has
 // changed since.
-class PosixProfile : public Profile {
+class PosixProfile : public CollectingProfile {
 public:
-    std::string GetPrivateProfileStringA(const std::string& section, std::optional<std::string> key,
-                                         const std::string& fallback, int size,
-                                         const std::string& file) override;
+    explicit PosixProfile(std::unique_ptr<EditDisk> disk = SystemEditDisk())
+        : disk_(std::move(disk))
+    {
+    }
+
+protected:
+    const ProfileText& TextOf(const std::string& file) override;
+    bool Apply(const std::string& file, const std::vector<ProfileChange>& changes) override;
 
 private:
     struct State {
@@ -26,6 +36,7 @@ private:
     struct Kept {
         State Of;
         bool Trusted = false;
+        std::string Bytes;
         ProfileText Text;
     };
 
@@ -33,7 +44,9 @@ private:
     // Null when the file cannot be read.
     const ProfileText* Read(const std::string& file);
 
+    std::unique_ptr<EditDisk> disk_;
     std::map<std::string, Kept> files_;
+    ProfileText nothing_;
 };
 
 } // namespace tavo

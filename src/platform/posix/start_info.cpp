@@ -7,8 +7,8 @@
 #include <cctype>
 #include <cstdlib>
 #include <filesystem>
-#include <system_error>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace tavo {
@@ -85,8 +85,7 @@ void CopyDefaults(const std::string& appFolder, const std::string& executablePat
     const std::string defaults = InstalledEntry(executablePath, "Default.ini");
     std::error_code failed;
     if (!defaults.empty())
-        fs::copy_file(defaults, appFolder + "Default.ini", fs::copy_options::skip_existing,
-                      failed);
+        fs::copy_file(defaults, appFolder + "Default.ini", fs::copy_options::skip_existing, failed);
 }
 
 int HexValue(char c)

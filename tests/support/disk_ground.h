@@ -10,26 +10,26 @@
 
 namespace tavo {
 
-// The disks that a run of the rename list is tried on.
+// The disks that the program is tried on.
 enum class Ground { Windows, Linux, CaseBlindStick, RealDisk };
 
 inline constexpr Ground everyGround[] = {Ground::Windows, Ground::Linux, Ground::CaseBlindStick,
                                          Ground::RealDisk};
 std::string Ground_Name(Ground kind);
 
-// A program with a rename list in the order asked for, on one of these disks.
-// Paths are written with slashes and without a root: "d/a.txt" is C:\d\a.txt,
-// /d/a.txt, or a file in a folder of the test. A file's content is its first
-// path as written here, so that each file can be told wherever it goes.
-class RunGround {
+// A program on one of these disks, with an empty rename screen. Paths are
+// written with slashes and without a root: "d/a.txt" is C:\d\a.txt, /d/a.txt,
+// or a file in a folder of the test. A file's content is its first path as
+// written here, so that each file can be told wherever it goes.
+class DiskGround {
     std::unique_ptr<MemoryListGround> memory_;
     std::unique_ptr<TempFolder> folder_, app_;
     std::unique_ptr<PosixFiles> files_;
     std::unique_ptr<ListGround> real_;
 
 public:
-    explicit RunGround(Ground kind);
-    ~RunGround();
+    explicit DiskGround(Ground kind);
+    ~DiskGround();
 
     const Ground Kind;
     ListGround& G;
@@ -44,12 +44,14 @@ public:
     std::string Full(const std::string& path) const;
     void AddFile(const std::string& path);
     void AddFolder(const std::string& path);
+    // A link to an entry that need not exist.
+    void AddLink(const std::string& path, const std::string& to);
     void Remove(const std::string& path);
     // Which file lies there now; empty for none.
     std::string ContentOf(const std::string& path) const;
     bool Has(const std::string& path) const;
 
-    // Puts these files on the disk and into the list, in this order.
+    // Puts these files on the disk and into the rename list, in this order.
     void Load(const std::vector<std::string>& paths);
     // The same with folders, each with a file "mark" in it.
     void LoadFolders(const std::vector<std::string>& paths);

@@ -1,4 +1,4 @@
-#include "support/run_ground.h"
+#include "support/disk_ground.h"
 
 #include "renamelist/act_run.h"
 #include "renamelist/rename_list.h"
@@ -14,10 +14,8 @@ constexpr const char* mark = "mark";
 std::unique_ptr<MemoryListGround> Memory_Make(Ground kind)
 {
     switch (kind) {
-    case Ground::Windows:
-        return std::make_unique<MemoryListGround>(MemoryDisk::Flavour::Windows);
-    case Ground::Linux:
-        return std::make_unique<MemoryListGround>(MemoryDisk::Flavour::Posix);
+    case Ground::Windows: return std::make_unique<MemoryListGround>(MemoryDisk::Flavour::Windows);
+    case Ground::Linux: return std::make_unique<MemoryListGround>(MemoryDisk::Flavour::Posix);
     case Ground::CaseBlindStick:
         return std::make_unique<MemoryListGround>(MemoryDisk::Flavour::PosixCaseBlind);
     default: return nullptr;
@@ -41,23 +39,22 @@ std::string Ground_Name(Ground kind)
     }
 }
 
-RunGround::RunGround(Ground kind)
+DiskGround::DiskGround(Ground kind)
     : memory_(Memory_Make(kind)), folder_(Folder_Make(kind, "run")), app_(Folder_Make(kind, "app")),
       files_(std::make_unique<PosixFiles>()),
       real_(memory_ ? nullptr : std::make_unique<ListGround>(*files_, app_->Path())), Kind(kind),
-      G(memory_ ? static_cast<ListGround&>(*memory_) : *real_), P(G.P), Main(G.Main),
-      List(G.List)
+      G(memory_ ? static_cast<ListGround&>(*memory_) : *real_), P(G.P), Main(G.Main), List(G.List)
 {
 }
 
-RunGround::~RunGround() = default;
+DiskGround::~DiskGround() = default;
 
-std::string RunGround::Full(const std::string& path) const
+std::string DiskGround::Full(const std::string& path) const
 {
     return memory_ ? memory_->Full(path) : folder_->Path(path);
 }
 
-void RunGround::AddFile(const std::string& path)
+void DiskGround::AddFile(const std::string& path)
 {
     if (memory_)
         memory_->AddFile(path);
@@ -65,7 +62,7 @@ void RunGround::AddFile(const std::string& path)
         folder_->Write(path, path);
 }
 
-void RunGround::AddFolder(const std::string& path)
+void DiskGround::AddFolder(const std::string& path)
 {
     if (memory_)
         memory_->Disk.AddFolder(Full(path));
@@ -73,7 +70,15 @@ void RunGround::AddFolder(const std::string& path)
         folder_->MakeFolder(path);
 }
 
-void RunGround::Remove(const std::string& path)
+void DiskGround::AddLink(const std::string& path, const std::string& to)
+{
+    if (memory_)
+        memory_->Disk.AddLink(Full(path), Full(to));
+    else
+        folder_->MakeLink(path, Full(to));
+}
+
+void DiskGround::Remove(const std::string& path)
 {
     if (memory_)
         memory_->Disk.Remove(Full(path));
@@ -81,12 +86,12 @@ void RunGround::Remove(const std::string& path)
         folder_->Remove(path);
 }
 
-bool RunGround::Has(const std::string& path) const
+bool DiskGround::Has(const std::string& path) const
 {
     return memory_ ? memory_->Disk.Has(Full(path)) : folder_->Has(path);
 }
 
-std::string RunGround::ContentOf(const std::string& path) const
+std::string DiskGround::ContentOf(const std::string& path) const
 {
     if (memory_)
         return memory_->ContentOf(path);
@@ -94,7 +99,7 @@ std::string RunGround::ContentOf(const std::string& path) const
 }
 
 // A drop sorts the list by name; the rows are then brought into this order.
-void RunGround::Drop(const std::vector<std::string>& paths)
+void DiskGround::Drop(const std::vector<std::string>& paths)
 {
     std::vector<std::string> full;
     for (const std::string& path : paths)
@@ -108,14 +113,14 @@ void RunGround::Drop(const std::vector<std::string>& paths)
             }
 }
 
-void RunGround::Load(const std::vector<std::string>& paths)
+void DiskGround::Load(const std::vector<std::string>& paths)
 {
     for (const std::string& path : paths)
         AddFile(path);
     Drop(paths);
 }
 
-void RunGround::LoadFolders(const std::vector<std::string>& paths)
+void DiskGround::LoadFolders(const std::vector<std::string>& paths)
 {
     for (const std::string& path : paths)
         AddFile(path + "/" + mark);
@@ -123,21 +128,21 @@ void RunGround::LoadFolders(const std::vector<std::string>& paths)
     Drop(paths);
 }
 
-void RunGround::SetCounter(const std::string& start, int digits, int style)
+void DiskGround::SetCounter(const std::string& start, int digits, int style)
 {
     Main.optNNStyle[style].Value = true;
     Main.txtNameNum[nnStartBox].Text = start;
     Main.txtNameNum[nnDigitsBox].Text = std::to_string(digits);
 }
 
-void RunGround::RunAll()
+void DiskGround::RunAll()
 {
     P.state.SupWarnRen = 1;
     P.state.actClose = 1;
     Act_Run(P, actAll);
 }
 
-void RunGround::RunSelected(const std::vector<int>& rows)
+void DiskGround::RunSelected(const std::vector<int>& rows)
 {
     P.state.SupWarnRen = 1;
     P.state.actClose = 1;
@@ -146,7 +151,7 @@ void RunGround::RunSelected(const std::vector<int>& rows)
     Act_Run(P, actSelected);
 }
 
-std::string RunGround::Counts() const
+std::string DiskGround::Counts() const
 {
     const auto& values = Main.lblActionInfo;
     return values[1].Caption.Get() + "/" + values[2].Caption.Get() + "/" + values[3].Caption.Get();
