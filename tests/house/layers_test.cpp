@@ -284,7 +284,8 @@ TEST(Layers, Engines_know_no_form)
         }
 }
 
-// What both hosts need stands below them, so they stay small.
+// What both hosts need stands below them, so they stay small. The reader of
+// pictures is no host: both of them use it.
 TEST(Layers, Hosts_are_below_a_quarter_of_the_code)
 {
     int hosts = 0, all = 0;
@@ -292,7 +293,9 @@ TEST(Layers, Hosts_are_below_a_quarter_of_the_code)
         if (file.Path.ends_with(".inc"))
             continue; // tables made by a script
         all += file.CodeLines;
-        hosts += file.Path.starts_with("hosts/") ? file.CodeLines : 0;
+        const bool isHost =
+            file.Path.starts_with("hosts/") && !file.Path.starts_with("hosts/pictures/");
+        hosts += isHost ? file.CodeLines : 0;
     }
     std::cout << "hosts: " << hosts << " of " << all << " lines of code, " << 100.0 * hosts / all
               << " %\n";
