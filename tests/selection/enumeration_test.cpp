@@ -393,6 +393,14 @@ TEST_P(Enumeration, Links_round_a_corner_end)
               (Texts{"a/1.txt", "a/to_b/2.txt", "b/2.txt", "b/to_a/1.txt"}));
 }
 
+// Behind such a link the start itself comes by as a folder of its own.
+TEST_P(Enumeration, A_link_above_the_start_does_not_lead_into_it_again)
+{
+    AddFiles({"d/a.txt", "d/sub/b.txt", "e/c.txt"});
+    ground.AddLink("d/sub/up", "");
+    EXPECT_EQ(Sorted(Walk("*.txt", -1)), (Texts{"a.txt", "sub/b.txt", "sub/up/e/c.txt"}));
+}
+
 TEST_P(Enumeration, A_link_to_a_file_or_to_nowhere_is_a_file)
 {
     AddFiles({"d/a.txt"});
