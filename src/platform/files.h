@@ -132,8 +132,7 @@ public:
 
     // The whole of a file; none when it cannot be read or is larger than
     // `limit` bytes.
-    virtual std::optional<std::string> ReadWhole(const std::string& path,
-                                                 std::uint64_t limit) = 0;
+    virtual std::optional<std::string> ReadWhole(const std::string& path, std::uint64_t limit) = 0;
 
     // UTC to the local time of that very moment, taken apart. False when the
     // moment cannot be told; `out` then stays as it was.

@@ -166,8 +166,7 @@ void Panel_ShowMode(Program& p, const ModePlan& plan)
     const auto& labels = plan.Labels;
     Act_Panel_Setup(p, false, labels[0].Caption, labels[1].Caption, labels[2].Caption);
     for (int k = 1; k <= 3; ++k)
-        p.main.lblAction[k].ToolTipText =
-            std::string(labels[static_cast<std::size_t>(k - 1)].Tip);
+        p.main.lblAction[k].ToolTipText = std::string(labels[static_cast<std::size_t>(k - 1)].Tip);
 }
 
 // Back to where the person was typing.

@@ -34,8 +34,8 @@ std::string_view Refusal_Destination(Program& p)
 
 std::string_view Refusal_Tag(Program& p)
 {
-    const bool any = std::ranges::any_of(
-        p.main.chkMP3, [](const auto& box) { return box->Value.Get() == 1; });
+    const bool any =
+        std::ranges::any_of(p.main.chkMP3, [](const auto& box) { return box->Value.Get() == 1; });
     return any ? "" : "Check an Item to Update!";
 }
 

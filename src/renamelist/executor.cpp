@@ -22,12 +22,9 @@ struct Refusal {
 constexpr int shellMissing = 1026;
 
 constexpr Refusal refusals[] = {
-    {diskMissing, "Missing", renMissing},
-    {diskMissingFolder, "Missing", renMissing},
-    {shellMissing, "Missing", renMissing},
-    {diskDenied, "Access Denied", renDenied},
-    {diskInUse, "Access Denied", renDenied},
-    {diskBadName, "Name Conflict", renConflict},
+    {diskMissing, "Missing", renMissing},       {diskMissingFolder, "Missing", renMissing},
+    {shellMissing, "Missing", renMissing},      {diskDenied, "Access Denied", renDenied},
+    {diskInUse, "Access Denied", renDenied},    {diskBadName, "Name Conflict", renConflict},
     {diskExists, "Name Conflict", renConflict},
 };
 constexpr Refusal anyOther = {0, "UnKnown", 0};

@@ -41,8 +41,7 @@ void List_DropIn(Program& p, const std::vector<std::string>& paths)
     if (p.state.ListDragging || p.Busy())
         return;
     p.desktop.SetForegroundWindow(p.main);
-    if (p.Say("This will Clear the current File List!", BoxIcon::Exclamation,
-              BoxButtons::OkCancel)
+    if (p.Say("This will Clear the current File List!", BoxIcon::Exclamation, BoxButtons::OkCancel)
         != BoxAnswer::Cancel)
         Ren_List_FromDrop(p, paths);
 }
@@ -55,8 +54,7 @@ void Row_Clicked(Program& p)
 
 void Selection_Changed(Program& p)
 {
-    p.main.stbMain.SetPanel(
-        3, "Selected: " + std::to_string(p.main.lsvRename.SelCount()));
+    p.main.stbMain.SetPanel(3, "Selected: " + std::to_string(p.main.lsvRename.SelCount()));
 }
 
 // 1 moves, 2 copies.

@@ -49,9 +49,8 @@ void Rows_Copy(Program& p, const ListView& source, int first, int last)
          row = source.NextSelected(row)) {
         const std::string type = LCase(source.Cell(row, srcType));
         Row_Append(p.state, list,
-                   {source.Cell(row, srcName), source.Cell(row, srcPath),
-                    source.Cell(row, srcSize), type, source.Cell(row, srcModified),
-                    source.SmallIcon(row)});
+                   {source.Cell(row, srcName), source.Cell(row, srcPath), source.Cell(row, srcSize),
+                    type, source.Cell(row, srcModified), source.SmallIcon(row)});
     }
 }
 

@@ -14,8 +14,7 @@ NameBuilder::NameBuilder(std::string_view nameTemplate, std::string_view extTemp
     Tmpl_Scan(extTemplate_, extFlags_);
 }
 
-void NameBuilder::Build(std::string_view baseName, std::string_view extension,
-                        std::int64_t counter)
+void NameBuilder::Build(std::string_view baseName, std::string_view extension, std::int64_t counter)
 {
     const std::string counterText = Counts() ? Cnt_Text(counter, style_, digits_) : std::string();
     newName_ = nameTemplate_;

@@ -207,9 +207,8 @@ void Cnt_CheckLetters(TextBox& box, double low, double high, bool upper)
 void NN_Digits_Auto(Program& p)
 {
     const int startLength = Len(p.state.nnStart);
-    const int countLength = p.state.nnStyle == cntNumber
-                                ? Len(IntToText(p.state.RenCount))
-                                : Len(Cnt_ToLetters(p.state.RenCount));
+    const int countLength = p.state.nnStyle == cntNumber ? Len(IntToText(p.state.RenCount))
+                                                         : Len(Cnt_ToLetters(p.state.RenCount));
     p.main.txtNameNum[nnDigitsBox].Text = IntToText(std::max(startLength, countLength));
 }
 

@@ -125,8 +125,8 @@ private:
     std::string AsideName(std::string_view name, int digit) const
     {
         constexpr int keptLength = 253;
-        const std::string kept = p_.files.Rules().Utf8 ? RightWithinBytes(name, keptLength)
-                                                       : Right(name, keptLength);
+        const std::string kept =
+            p_.files.Rules().Utf8 ? RightWithinBytes(name, keptLength) : Right(name, keptLength);
         return std::to_string(digit) + kept;
     }
 

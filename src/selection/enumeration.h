@@ -25,7 +25,6 @@ void Sel_Files_Get(Program& p, const std::string& startPath, const std::string& 
 
 // Clears the selection list and fills it with what `path` holds under the
 // patterns of `filter` (parted by ";"), sorted by Path and Name.
-void Sel_List_Fill(Program& p, const std::string& path, bool subFolders,
-                   const std::string& filter);
+void Sel_List_Fill(Program& p, const std::string& path, bool subFolders, const std::string& filter);
 
 } // namespace tavo

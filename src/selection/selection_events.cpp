@@ -75,8 +75,12 @@ void SplitY_Move(Program& p, const Control::Mouse& mouse)
 void Splitters_Wire(Program& p)
 {
     FrmMain& main = p.main;
-    main.lblSelDBX.MouseDown = [&p](const Control::Mouse& m) { Drag_Begin(p.state.SplitX, m, m.X); };
-    main.lblSelDBY.MouseDown = [&p](const Control::Mouse& m) { Drag_Begin(p.state.SplitY, m, m.Y); };
+    main.lblSelDBX.MouseDown = [&p](const Control::Mouse& m) {
+        Drag_Begin(p.state.SplitX, m, m.X);
+    };
+    main.lblSelDBY.MouseDown = [&p](const Control::Mouse& m) {
+        Drag_Begin(p.state.SplitY, m, m.Y);
+    };
     main.lblSelDBX.MouseUp = [&p](const Control::Mouse&) { p.state.SplitX = noDrag; };
     main.lblSelDBY.MouseUp = [&p](const Control::Mouse&) { p.state.SplitY = noDrag; };
     main.lblSelDBX.MouseMove = [&p](const Control::Mouse& m) { SplitX_Move(p, m); };

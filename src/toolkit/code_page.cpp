@@ -11,10 +11,9 @@ namespace {
 
 // Code points of the bytes 80 to 9F; all others are their own number.
 constexpr char16_t CodesOf80To9F[32] = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
 unsigned char ByteOfCode(char32_t code)
@@ -63,14 +62,10 @@ unsigned char Cp1252Upper(unsigned char byte)
     switch (byte) {
     case 0x9A:
     case 0x9C:
-    case 0x9E:
-        return static_cast<unsigned char>(byte - 0x10);
-    case 0xFF:
-        return 0x9F;
-    case 0xF7:
-        return byte;
-    default:
-        break;
+    case 0x9E: return static_cast<unsigned char>(byte - 0x10);
+    case 0xFF: return 0x9F;
+    case 0xF7: return byte;
+    default: break;
     }
     const bool small = (byte >= 'a' && byte <= 'z') || (byte >= 0xE0 && byte <= 0xFE);
     return small ? static_cast<unsigned char>(byte - 0x20) : byte;
@@ -81,14 +76,10 @@ unsigned char Cp1252Lower(unsigned char byte)
     switch (byte) {
     case 0x8A:
     case 0x8C:
-    case 0x8E:
-        return static_cast<unsigned char>(byte + 0x10);
-    case 0x9F:
-        return 0xFF;
-    case 0xD7:
-        return byte;
-    default:
-        break;
+    case 0x8E: return static_cast<unsigned char>(byte + 0x10);
+    case 0x9F: return 0xFF;
+    case 0xD7: return byte;
+    default: break;
     }
     const bool capital = (byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE);
     return capital ? static_cast<unsigned char>(byte + 0x20) : byte;

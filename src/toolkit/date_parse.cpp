@@ -123,8 +123,7 @@ std::size_t TimeLength(Words words)
 {
     std::size_t count = 1;
     while (count + 1 < words.size() && IsTimeSign(words[count])
-           && words[count].Value == words[1].Value
-           && words[count + 1].Kind == WordKind::Number)
+           && words[count].Value == words[1].Value && words[count + 1].Kind == WordKind::Number)
         count += 2;
     if (count < words.size() && words[count].Kind == WordKind::HalfDay)
         return count + 1;

@@ -54,20 +54,13 @@ const MaskWord* MaskWordAt(std::string_view mask, std::size_t pos)
 void AppendPart(std::string& out, const DateTime& when, Part part, bool is12Hours)
 {
     switch (part) {
-    case Part::Year:
-        return AppendPadded(out, when.Year, 4);
-    case Part::Month:
-        return AppendPadded(out, when.Month, 2);
-    case Part::Day:
-        return AppendPadded(out, when.Day, 2);
-    case Part::Hour:
-        return AppendPadded(out, is12Hours ? HourOf12(when.Hour) : when.Hour, 2);
-    case Part::Minute:
-        return AppendPadded(out, when.Minute, 2);
-    case Part::Second:
-        return AppendPadded(out, when.Second, 2);
-    case Part::HalfDay:
-        out += when.Hour < 12 ? "AM" : "PM";
+    case Part::Year: return AppendPadded(out, when.Year, 4);
+    case Part::Month: return AppendPadded(out, when.Month, 2);
+    case Part::Day: return AppendPadded(out, when.Day, 2);
+    case Part::Hour: return AppendPadded(out, is12Hours ? HourOf12(when.Hour) : when.Hour, 2);
+    case Part::Minute: return AppendPadded(out, when.Minute, 2);
+    case Part::Second: return AppendPadded(out, when.Second, 2);
+    case Part::HalfDay: out += when.Hour < 12 ? "AM" : "PM";
     }
 }
 
@@ -146,16 +139,16 @@ std::optional<DateTime> ReadModified(std::string_view text)
     const int hour = TwoAt(text, 11);
     if (hour > 12)
         return std::nullopt;
-    return IfValid({FourAt(text, 6), TwoAt(text, 0), TwoAt(text, 3),
-                    hour % 12 + (isPm ? 12 : 0), TwoAt(text, 14), 0});
+    return IfValid({FourAt(text, 6), TwoAt(text, 0), TwoAt(text, 3), hour % 12 + (isPm ? 12 : 0),
+                    TwoAt(text, 14), 0});
 }
 
 std::optional<DateTime> ReadSortable(std::string_view text)
 {
     if (!HasForm(text, "0000/00/00 00:00"))
         return std::nullopt;
-    return IfValid({FourAt(text, 0), TwoAt(text, 5), TwoAt(text, 8), TwoAt(text, 11),
-                    TwoAt(text, 14), 0});
+    return IfValid(
+        {FourAt(text, 0), TwoAt(text, 5), TwoAt(text, 8), TwoAt(text, 11), TwoAt(text, 14), 0});
 }
 
 } // namespace

@@ -19,7 +19,7 @@ struct DateTime {
     friend bool operator==(const DateTime&, const DateTime&) = default;
 };
 
-int Days_InMonth(int year, int month); // 0 for a month outside 1 to 12
+int Days_InMonth(int year, int month);           // 0 for a month outside 1 to 12
 bool Date_IsValid(int year, int month, int day); // years 100 to 9999
 bool Time_IsValid(int hour, int minute, int second);
 bool DateTime_IsValid(const DateTime& when);

@@ -146,9 +146,9 @@ public:
     int PageRows = 20;
 
     // Events of the person.
-    Event<> ItemClick;        // a click on a row, after the selection has changed
-    Event<int> ColumnClick;   // a click on the header of this column
-    Event<> DragStarted;      // the left button went down on a row and moved
+    Event<> ItemClick;      // a click on a row, after the selection has changed
+    Event<int> ColumnClick; // a click on the header of this column
+    Event<> DragStarted;    // the left button went down on a row and moved
     Event<const std::vector<std::string>&> FilesDropped;
 
     // While held, a person's part of the selection stays as it is: what works

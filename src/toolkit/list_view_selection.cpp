@@ -163,20 +163,13 @@ int ListView::KeyTarget(int code) const
     const int from = SelectedItem();
     const auto step = [&](int by) { return from == 0 ? 1 : std::clamp(from + by, 1, Count()); };
     switch (code) {
-    case keyUp:
-        return step(-1);
-    case keyDown:
-        return step(1);
-    case keyPageUp:
-        return step(-PageRows);
-    case keyPageDown:
-        return step(PageRows);
-    case keyHome:
-        return 1;
-    case keyEnd:
-        return Count();
-    default:
-        return 0;
+    case keyUp: return step(-1);
+    case keyDown: return step(1);
+    case keyPageUp: return step(-PageRows);
+    case keyPageDown: return step(PageRows);
+    case keyHome: return 1;
+    case keyEnd: return Count();
+    default: return 0;
     }
 }
 

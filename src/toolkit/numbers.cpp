@@ -180,8 +180,7 @@ bool TakeSign(Cursor& cursor, Surround& around)
 
 void TakeBefore(Cursor& cursor, Surround& around)
 {
-    while (SkipSpace(cursor) || TakeSign(cursor, around)
-           || TakeOnce(cursor, '$', around.Currency)
+    while (SkipSpace(cursor) || TakeSign(cursor, around) || TakeOnce(cursor, '$', around.Currency)
            || (!around.Signed && TakeOnce(cursor, '(', around.Parenthesis)))
         continue;
 }
@@ -190,8 +189,8 @@ void TakeBefore(Cursor& cursor, Surround& around)
 bool TakeBehind(Cursor& cursor, Surround& around)
 {
     bool closed = !around.Parenthesis;
-    while (SkipSpace(cursor) || TakeSign(cursor, around)
-           || TakeOnce(cursor, '$', around.Currency) || TakeOnce(cursor, ')', closed))
+    while (SkipSpace(cursor) || TakeSign(cursor, around) || TakeOnce(cursor, '$', around.Currency)
+           || TakeOnce(cursor, ')', closed))
         continue;
     return closed;
 }
@@ -223,8 +222,8 @@ std::optional<Reading> ReadWhole(std::string_view text)
 template <typename Real>
 Real RealOf(const Reading& reading)
 {
-    const Real size = reading.IsRadix ? static_cast<Real>(reading.RadixValue)
-                                      : ValueOf<Real>(reading.Digits);
+    const Real size =
+        reading.IsRadix ? static_cast<Real>(reading.RadixValue) : ValueOf<Real>(reading.Digits);
     return reading.IsNegative ? -size : size;
 }
 

@@ -44,8 +44,8 @@ bool AssignChecked(T& target, double value)
 {
     static_assert(std::is_integral_v<T> && sizeof(T) <= 4);
     const double rounded = RoundHalfEven(value);
-    const bool fits = rounded >= std::numeric_limits<T>::min()
-                      && rounded <= std::numeric_limits<T>::max();
+    const bool fits =
+        rounded >= std::numeric_limits<T>::min() && rounded <= std::numeric_limits<T>::max();
     if (fits)
         target = static_cast<T>(rounded);
     return fits;

@@ -33,8 +33,7 @@ void RowIndex::LinkBehind(RowId row, RowId head)
 void RowIndex::AddHead(RowId row)
 {
     if ((heads_ + 1) * 3 > slots_.size() * 2) {
-        const auto old =
-            std::exchange(slots_, std::vector<RowId>(slots_.size() * 2, noRow));
+        const auto old = std::exchange(slots_, std::vector<RowId>(slots_.size() * 2, noRow));
         for (const RowId head : old) {
             if (head != noRow)
                 PlaceHead(head);

@@ -43,7 +43,7 @@ private:
     std::size_t SlotOf(RowId head) const;
     void EraseSlot(std::size_t slot);
 
-    std::vector<Node> nodes_; // by row
+    std::vector<Node> nodes_;  // by row
     std::vector<RowId> slots_; // open addressing, heads of chains
     std::size_t heads_ = 0;
     bool built_ = false;

@@ -300,8 +300,8 @@ std::size_t RowOrder::MemoryBytes() const
 {
     const std::size_t rows = sequence_.size() * (chunkSize * sizeof(RowId) + 16);
     const std::size_t numbers = sequence_.capacity() + freeChunks_.capacity() + tree_.capacity();
-    return rows + chunks_.capacity() * sizeof(Chunk) + numbers * sizeof(std::uint32_t) +
-           places_.capacity() * sizeof(Place);
+    return rows + chunks_.capacity() * sizeof(Chunk) + numbers * sizeof(std::uint32_t)
+           + places_.capacity() * sizeof(Place);
 }
 
 } // namespace tavo

@@ -93,7 +93,7 @@ private:
 
     std::vector<Chunk> chunks_;
     std::vector<std::uint32_t> sequence_, freeChunks_;
-    std::vector<int> tree_; // Fenwick: [i] sums the chunks that i stands for
+    std::vector<int> tree_;     // Fenwick: [i] sums the chunks that i stands for
     std::vector<Place> places_; // by row
     int count_ = 0, marked_ = 0;
     mutable Spot hint_; // always a true spot while there are rows

@@ -38,8 +38,8 @@ private:
     void Append(std::size_t number, std::size_t& end, std::string_view text);
     bool FitsInPlace(std::size_t fields, std::size_t textBytes) const;
     void Replace(std::size_t number, std::string_view text);
-    void Rebuild(RecordHeap& heap, std::size_t fields, std::size_t textBytes,
-                 std::size_t number, std::string_view text);
+    void Rebuild(RecordHeap& heap, std::size_t fields, std::size_t textBytes, std::size_t number,
+                 std::string_view text);
     void MoveEnd(std::size_t number, std::size_t end);
 
     char* block_ = nullptr;

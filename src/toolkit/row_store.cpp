@@ -57,8 +57,7 @@ RowRecord RowStore::NewRecord(const std::string_view* cells, std::size_t count)
     return RowRecord(heap_, newFields_.data(), newFields_.size());
 }
 
-void RowStore::Insert(int position, const std::string_view* cells, int count,
-                      std::string_view icon)
+void RowStore::Insert(int position, const std::string_view* cells, int count, std::string_view icon)
 {
     const RowId row = NewRow();
     Row& made = RowOf(row);
@@ -223,10 +222,10 @@ bool RowStore::Select(int position, bool on)
 
 std::size_t RowStore::MemoryBytes() const
 {
-    const std::size_t pages = pages_.size() * (pageRows * sizeof(Row) + 16) +
-                              pages_.capacity() * sizeof(pages_[0]);
-    return sizeof(*this) + pages + heap_.MemoryBytes() + order_.MemoryBytes() +
-           pool_.MemoryBytes() + names_.MemoryBytes() + pairs_.MemoryBytes();
+    const std::size_t pages =
+        pages_.size() * (pageRows * sizeof(Row) + 16) + pages_.capacity() * sizeof(pages_[0]);
+    return sizeof(*this) + pages + heap_.MemoryBytes() + order_.MemoryBytes() + pool_.MemoryBytes()
+           + names_.MemoryBytes() + pairs_.MemoryBytes();
 }
 
 } // namespace tavo

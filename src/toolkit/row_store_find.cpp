@@ -114,8 +114,7 @@ int RowStore::FindItem(std::string_view text, int after) const
 
 // The lowest position before `before` of a wanted row on the chain; 0 if none.
 template <class Wanted>
-int RowStore::FirstOnChain(const RowIndex& index, RowId row, int before,
-                           const Wanted& wanted) const
+int RowStore::FirstOnChain(const RowIndex& index, RowId row, int before, const Wanted& wanted) const
 {
     int first = 0;
     for (; row != noRow; row = index.Next(row)) {
@@ -136,8 +135,7 @@ int RowStore::FindItemWhere(std::string_view text, int column, std::string_view 
     const std::uint32_t id = shared ? pool_.Find(cell) : 0;
     RowId row = id == TextPool::none ? noRow : FirstNamed(text);
     const RowIndex* index = &names_;
-    if (shared && row != noRow && (!pairs_.Built() || pairColumn_ == column) &&
-        ChainIsLong(row)) {
+    if (shared && row != noRow && (!pairs_.Built() || pairColumn_ == column) && ChainIsLong(row)) {
         row = FirstPair(text, column, id);
         index = &pairs_;
     }

@@ -97,8 +97,9 @@ private:
     void SortFew(const Run& run)
     {
         const auto before = [&](const Item& left, const Item& right) {
-            const int order = keys_.Key(left.Number).substr(run.Depth).compare(
-                keys_.Key(right.Number).substr(run.Depth));
+            const int order = keys_.Key(left.Number)
+                                  .substr(run.Depth)
+                                  .compare(keys_.Key(right.Number).substr(run.Depth));
             return flip_ ? order > 0 : order < 0;
         };
         // By insertion, which keeps equal keys as they stand.

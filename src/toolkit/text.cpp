@@ -59,8 +59,8 @@ std::string MapCase(std::string_view text, void (*mapAscii)(char*, std::size_t),
 
 // Compares from the given offsets on until `part` is used up; moves both
 // offsets. False at the first difference, also when `text` ends before.
-bool MatchFrom(std::string_view text, std::size_t& pos, std::string_view part,
-               std::size_t& partPos, Compare compare)
+bool MatchFrom(std::string_view text, std::size_t& pos, std::string_view part, std::size_t& partPos,
+               Compare compare)
 {
     while (partPos < part.size()) {
         if (pos >= text.size())
@@ -120,8 +120,7 @@ std::size_t FindAsciiBlind(std::string_view text, std::size_t pos, std::string_v
     return std::string_view::npos;
 }
 
-std::size_t FindFrom(std::string_view text, std::size_t pos, std::string_view find,
-                     Compare compare)
+std::size_t FindFrom(std::string_view text, std::size_t pos, std::string_view find, Compare compare)
 {
     if (SearchesBytes(find, compare))
         return text.find(find, pos);

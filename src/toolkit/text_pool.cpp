@@ -117,8 +117,8 @@ void TextPool::Clear()
 std::size_t TextPool::MemoryBytes() const
 {
     // Each text is a block of the heap with its own overhead.
-    return entries_.capacity() * sizeof(Entry) + textBytes_ + used_ * 16 +
-           (free_.capacity() + slots_.capacity()) * sizeof(std::uint32_t);
+    return entries_.capacity() * sizeof(Entry) + textBytes_ + used_ * 16
+           + (free_.capacity() + slots_.capacity()) * sizeof(std::uint32_t);
 }
 
 } // namespace tavo

@@ -20,9 +20,9 @@ struct CaseRun {
 template <std::size_t Count>
 char32_t Moved(const CaseRun (&runs)[Count], char32_t code)
 {
-    const CaseRun* run = std::lower_bound(
-        std::begin(runs), std::end(runs), code,
-        [](const CaseRun& each, char32_t wanted) { return each.Last < wanted; });
+    const CaseRun* run =
+        std::lower_bound(std::begin(runs), std::end(runs), code,
+                         [](const CaseRun& each, char32_t wanted) { return each.Last < wanted; });
     if (run == std::end(runs) || code < run->First || (code - run->First) % run->Step != 0)
         return code;
     return code + static_cast<char32_t>(run->Delta);

@@ -17,10 +17,7 @@ struct Character {
 
     constexpr bool IsStray() const { return Code >= StrayBase; }
     // The byte itself; only for a stray one.
-    constexpr unsigned char Byte() const
-    {
-        return static_cast<unsigned char>(Code - StrayBase);
-    }
+    constexpr unsigned char Byte() const { return static_cast<unsigned char>(Code - StrayBase); }
     friend constexpr bool operator==(Character, Character) = default;
 };
 

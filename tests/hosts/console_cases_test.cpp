@@ -99,11 +99,11 @@ std::string Console_Run(const TempFolder& folder, const TempFolder& app, const f
     std::erase(arguments, '\n');
     if (!fs::exists(plan / "arguments"))
         arguments = "FOLDER/";
-    const std::string command =
-        Quoted(std::string(TAVO_BUILD_DIR) + "/tavo-console") + " --app-folder "
-        + Quoted(app.Path("app")) + " "
-        + Replaced(arguments, "FOLDER/", Quoted(folder.Path())) + " < " + Quoted(app.Path("script"))
-        + " > " + Quoted(app.Path("out")) + " 2> " + Quoted(app.Path("err"));
+    const std::string command = Quoted(std::string(TAVO_BUILD_DIR) + "/tavo-console")
+                                + " --app-folder " + Quoted(app.Path("app")) + " "
+                                + Replaced(arguments, "FOLDER/", Quoted(folder.Path())) + " < "
+                                + Quoted(app.Path("script")) + " > " + Quoted(app.Path("out"))
+                                + " 2> " + Quoted(app.Path("err"));
     const int status = std::system(command.c_str());
     std::string text = app.Read("out");
     for (const std::string& line : Lines_Of(app.Read("err")))

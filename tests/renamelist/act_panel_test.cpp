@@ -105,8 +105,13 @@ struct ProgressCase {
 TEST(ActPanel, Progress_is_the_whole_percentage_in_bar_and_caption)
 {
     const ProgressCase cases[] = {
-        {1, 1, 100},    {1, 2, 50},  {1, 3, 33},           {2, 3, 66},
-        {999, 1000, 99}, {1, 1000, 0}, {100000000, 100000000, 100},
+        {1, 1, 100},
+        {1, 2, 50},
+        {1, 3, 33},
+        {2, 3, 66},
+        {999, 1000, 99},
+        {1, 1000, 0},
+        {100000000, 100000000, 100},
     };
     MemoryListGround ground(MemoryDisk::Flavour::Posix);
     for (const ProgressCase& test : cases) {

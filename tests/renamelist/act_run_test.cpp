@@ -556,8 +556,7 @@ TEST(RunOnDisk, What_has_happened_since_the_load_ends_in_its_own_row)
     EXPECT_EQ(ground.Column("Errors"),
               (Texts{"", "Missing", "", "Name Conflict", "Name Conflict"}));
     EXPECT_EQ(ground.Column("UndoName"), (Texts{"a.txt", "", "c.txt", "", ""}));
-    EXPECT_EQ(folder.Names(),
-              (Texts{"d.txt", "e.txt", "new_1.txt", "new_2.txt", "new_3.txt"}));
+    EXPECT_EQ(folder.Names(), (Texts{"d.txt", "e.txt", "new_1.txt", "new_2.txt", "new_3.txt"}));
     EXPECT_EQ(folder.Read("new_1.txt"), "a.txt");
     EXPECT_EQ(folder.Read("new_2.txt"), "c.txt");
     EXPECT_EQ(folder.Read("new_3.txt"), "another program's");

@@ -11,9 +11,9 @@ TEST(Counters, Numbers_are_padded_to_their_width_and_never_cut)
         int Digits;
         const char* Wanted;
     } rows[] = {
-        {"1", 3, "001"},   {"999", 3, "999"},   {"1000", 3, "1000"}, {"1", 9, "000000001"},
-        {"1", 1, "1"},     {"12", 1, "12"},     {"1", 0, "1"},       {"1", -4, "1"},
-        {"", 3, "000"},    {"1", 10, "000000001"}, {"1", 99, "000000001"},
+        {"1", 3, "001"}, {"999", 3, "999"},      {"1000", 3, "1000"},    {"1", 9, "000000001"},
+        {"1", 1, "1"},   {"12", 1, "12"},        {"1", 0, "1"},          {"1", -4, "1"},
+        {"", 3, "000"},  {"1", 10, "000000001"}, {"1", 99, "000000001"},
     };
     for (const auto& row : rows)
         EXPECT_EQ(Cnt_PadDigits(row.Value, row.Digits), row.Wanted)
@@ -39,8 +39,8 @@ TEST(Counters, Letters_count_in_base_26_with_a_as_zero)
         std::int64_t Number;
         const char* Letters;
     } rows[] = {
-        {0, "a"}, {1, "b"}, {25, "z"}, {26, "ba"}, {675, "zz"}, {676, "baa"}, {701, "baz"},
-        {999999, "cexhn"},
+        {0, "a"},    {1, "b"},     {25, "z"},    {26, "ba"},
+        {675, "zz"}, {676, "baa"}, {701, "baz"}, {999999, "cexhn"},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(Cnt_ToLetters(row.Number), row.Letters);
@@ -75,9 +75,10 @@ TEST(Counters, Start_is_the_numeric_prefix_or_the_letters)
         int Style;
         std::int64_t Wanted;
     } rows[] = {
-        {"1", cntNumber, 1},    {"12abc", cntNumber, 12}, {"", cntNumber, 0}, {"abc", cntNumber, 0},
-        {"b", cntSmall, 1},     {"BA", cntCapital, 26},   {"", cntSmall, 0},
-        {"1e300", cntNumber, 2147483647},
+        {"1", cntNumber, 1}, {"12abc", cntNumber, 12},
+        {"", cntNumber, 0},  {"abc", cntNumber, 0},
+        {"b", cntSmall, 1},  {"BA", cntCapital, 26},
+        {"", cntSmall, 0},   {"1e300", cntNumber, 2147483647},
     };
     for (const auto& row : rows)
         EXPECT_EQ(Cnt_Start(row.Text, row.Style), row.Wanted) << row.Text;

@@ -47,10 +47,10 @@ struct CodeCase {
 };
 
 constexpr CodeCase codeCases[] = {
-    {2, "Missing", 53},          {3, "Missing", 53},       {1026, "Missing", 53},
-    {5, "Access Denied", 75},    {32, "Access Denied", 75}, {123, "Name Conflict", 58},
-    {183, "Name Conflict", 58},  {1, "UnKnown", 0},         {87, "UnKnown", 0},
-    {2018, "UnKnown", 0},        {-1, "UnKnown", 0},
+    {2, "Missing", 53},         {3, "Missing", 53},        {1026, "Missing", 53},
+    {5, "Access Denied", 75},   {32, "Access Denied", 75}, {123, "Name Conflict", 58},
+    {183, "Name Conflict", 58}, {1, "UnKnown", 0},         {87, "UnKnown", 0},
+    {2018, "UnKnown", 0},       {-1, "UnKnown", 0},
 };
 
 } // namespace
@@ -353,8 +353,7 @@ namespace {
 
 // A real folder with one file in it, and a list of that file.
 struct RealGround {
-    explicit RealGround(const std::string& name)
-        : Ground(Disk, Folder.Path())
+    explicit RealGround(const std::string& name) : Ground(Disk, Folder.Path())
     {
         Folder.Write(name, "content");
         Ren_List_FromDrop(Ground.P, {Folder.Path(name)});
@@ -368,8 +367,8 @@ struct RealGround {
 
 TEST(ExecutorOnDisk, Names_of_any_bytes_go_and_come)
 {
-    const char* names[] = {"b.txt",       "two\nlines", " blank ", "\xff\xfe raw",
-                           "caf\u00e9",   "cafe\u0301", "tab\there", ".hidden",
+    const char* names[] = {"b.txt",      "two\nlines", " blank ",         "\xff\xfe raw",
+                           "caf\u00e9",  "cafe\u0301", "tab\there",       ".hidden",
                            "trailing. ", "con",        "\u65e5\u672c.txt"};
     for (const char* name : names) {
         RealGround real("a.txt");

@@ -310,9 +310,12 @@ struct SizeCase {
 
 TEST_P(Load, Sizes_are_those_of_a_load)
 {
-    for (const SizeCase& test : {SizeCase{0, "         1KB"}, {1023, "         1KB"},
-                                 {1024, "         2KB"}, {125 * 1024, "       126KB"},
-                                 {1234567890, " 1,205,633KB"}, {2147483648, "-2,097,152KB"}}) {
+    for (const SizeCase& test : {SizeCase{0, "         1KB"},
+                                 {1023, "         1KB"},
+                                 {1024, "         2KB"},
+                                 {125 * 1024, "       126KB"},
+                                 {1234567890, " 1,205,633KB"},
+                                 {2147483648, "-2,097,152KB"}}) {
         ground.AddFile("d/a");
         ground.Disk.SetSize(ground.Full("d/a"), test.Bytes);
         Ren_List_FromDrop(p, {ground.Full("d/a")});
@@ -391,9 +394,8 @@ TEST_P(Load, A_file_that_vanishes_between_two_looks_leaves_no_row)
 {
     ground.AddFile("d/a.txt");
     ground.AddFile("d/b.txt");
-    ground.Disk.Before("Stat", 1, [&](const MemoryDisk::Call&) {
-        ground.Disk.Remove(ground.Full("d/a.txt"));
-    });
+    ground.Disk.Before(
+        "Stat", 1, [&](const MemoryDisk::Call&) { ground.Disk.Remove(ground.Full("d/a.txt")); });
     Ren_List_FromDrop(p, {ground.Full("d/a.txt"), ground.Full("d/b.txt")});
     EXPECT_EQ(ground.Names(), (Texts{"b.txt"}));
 }
@@ -405,8 +407,7 @@ TEST_P(Load, A_stamp_that_cannot_be_told_shows_the_one_before_it)
     ground.Disk.SetTimes(ground.Full("d/a.txt"), Clock_Moment(2001, 3, 9, 13, 5));
     ground.Disk.Fail("FileTimeToLocalSystemTime", 2, 87);
     Ren_List_FromDrop(p, {ground.Full("d/a.txt"), ground.Full("d/b.txt")});
-    EXPECT_EQ(ground.Column("Modified"),
-              (Texts{"03/09/2001 01:05 PM", "03/09/2001 01:05 PM"}));
+    EXPECT_EQ(ground.Column("Modified"), (Texts{"03/09/2001 01:05 PM", "03/09/2001 01:05 PM"}));
 }
 
 TEST_P(Load, The_same_file_dropped_twice_is_two_rows)
@@ -419,9 +420,8 @@ TEST_P(Load, The_same_file_dropped_twice_is_two_rows)
 TEST(LoadOnDisk, Names_of_any_bytes_are_rows)
 {
     TempFolder folder("list_load");
-    const Texts names = {"*",          "?",         "a*b?.txt", "two\nlines.txt",
-                         "\xff\xfe",   "ca\u0301.x", "cá.x",     " blank ",
-                         std::string(255, 'n')};
+    const Texts names = {"*",          "?",    "a*b?.txt", "two\nlines.txt",     "\xff\xfe",
+                         "ca\u0301.x", "cá.x", " blank ",  std::string(255, 'n')};
     PosixFiles disk;
     ListGround ground(disk, folder.Path());
     Texts paths;

@@ -481,9 +481,9 @@ TEST_P(Order, The_distance_is_the_number_in_the_box)
     const struct {
         const char *Text, *Names;
     } cases[] = {
-        {"1", "bacdef"},  {" 3 ", "bcdaef"}, {"2.5", "bcadef"}, {"0", "abcdef"},
-        {"-4", "abcdef"}, {"", "abcdef"},    {"abc", "abcdef"}, {"99", "bcdefa"},
-        {"99999999999", "abcdef"},
+        {"1", "bacdef"},   {" 3 ", "bcdaef"}, {"2.5", "bcadef"},
+        {"0", "abcdef"},   {"-4", "abcdef"},  {"", "abcdef"},
+        {"abc", "abcdef"}, {"99", "bcdefa"},  {"99999999999", "abcdef"},
     };
     for (const auto& test : cases) {
         LoadRows(6);

@@ -27,12 +27,9 @@ struct SizeCase {
 TEST_P(Refresh, Sizes_read_otherwise_after_a_refresh_than_after_a_load)
 {
     const SizeCase cases[] = {
-        {0, "         1KB", "        1 KB"},
-        {1023, "         1KB", "        1 KB"},
-        {1024, "         2KB", "        2 KB"},
-        {122 * 1024, "       123KB", "      123 KB"},
-        {2147483648, "-2,097,152KB", "2,097,153 KB"},
-        {4294967296, "         1KB", "4,194,305 KB"},
+        {0, "         1KB", "        1 KB"},          {1023, "         1KB", "        1 KB"},
+        {1024, "         2KB", "        2 KB"},       {122 * 1024, "       123KB", "      123 KB"},
+        {2147483648, "-2,097,152KB", "2,097,153 KB"}, {4294967296, "         1KB", "4,194,305 KB"},
     };
     for (const SizeCase& test : cases) {
         SCOPED_TRACE(test.Bytes);

@@ -19,16 +19,16 @@ constexpr std::size_t longestPosixName = 255; // bytes
 
 bool Holds(const NodePtr& folder, const NodePtr& wanted)
 {
-    return folder == wanted ||
-           std::any_of(folder->Children.begin(), folder->Children.end(),
-                       [&](const auto& child) { return Holds(child.second, wanted); });
+    return folder == wanted
+           || std::any_of(folder->Children.begin(), folder->Children.end(),
+                          [&](const auto& child) { return Holds(child.second, wanted); });
 }
 
 bool HoldsInUse(const NodePtr& folder)
 {
-    return std::any_of(
-        folder->Children.begin(), folder->Children.end(),
-        [](const auto& child) { return child.second->InUse || HoldsInUse(child.second); });
+    return std::any_of(folder->Children.begin(), folder->Children.end(), [](const auto& child) {
+        return child.second->InUse || HoldsInUse(child.second);
+    });
 }
 
 } // namespace
@@ -262,8 +262,8 @@ int MemoryDisk::RefusedName(const std::string& path) const
 {
     const std::string name = LastPart(path);
     if (!IsWindows()) {
-        const bool bad = name.empty() || name == "." || name == ".." ||
-                         name.size() > longestPosixName || name.find('\0') != name.npos;
+        const bool bad = name.empty() || name == "." || name == ".."
+                         || name.size() > longestPosixName || name.find('\0') != name.npos;
         return bad ? diskBadName : diskOk;
     }
     const std::string stored = windows::Stored(name);

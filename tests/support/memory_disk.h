@@ -157,8 +157,7 @@ private:
                        const NodePtr& node) const;
     NodePtr ChildOf(const MemoryTree::Place& place) const;
     void Relink(const MemoryTree::Place& from, const MemoryTree::Place& to);
-    void Collect(const NodePtr& folder, const std::string& path,
-                 std::vector<Entry>& out) const;
+    void Collect(const NodePtr& folder, const std::string& path, std::vector<Entry>& out) const;
 
     PathRules rules_;
     MemoryTree tree_;

@@ -13,9 +13,7 @@ constexpr int mostLinks = 40;
 
 } // namespace
 
-MemoryTree::MemoryTree(const PathRules& rules) : rules_(rules)
-{
-}
+MemoryTree::MemoryTree(const PathRules& rules) : rules_(rules) {}
 
 std::string MemoryTree::Key(std::string_view name) const
 {

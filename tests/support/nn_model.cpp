@@ -319,8 +319,8 @@ bool Run::BringsInForbidden(const Row& row, const std::string& oldName,
                             const std::string& newName) const
 {
     for (const char c : std::string("\\:*?\"<>|")) {
-        const bool known = oldName.find(c) != std::string::npos ||
-                           row.UndoName.find(c) != std::string::npos;
+        const bool known =
+            oldName.find(c) != std::string::npos || row.UndoName.find(c) != std::string::npos;
         if (!known && newName.find(c) != std::string::npos)
             return true;
     }

@@ -40,8 +40,7 @@ Program& ProgramRig::Start(const std::string& commandText, const std::string& se
         Disk.AddFile(AppFolder + "Tavo.ini", settings);
         Profile.SetText(AppFolder + "Tavo.ini", settings);
     }
-    program_ = std::make_unique<Program>(Disk, Profile, Desktop,
-                                         StartInfo{AppFolder, commandText});
+    program_ = std::make_unique<Program>(Disk, Profile, Desktop, StartInfo{AppFolder, commandText});
     program_->Start();
     return *program_;
 }

@@ -12,25 +12,26 @@ namespace tavo::model {
 namespace {
 
 constexpr std::array nameTemplates = {
-    "<#>",      "<#>",       "<#>",     "<#>",        "x<#>",       "<#>x",     "0<#>",
-    "<ON>_<#>", "<ON><#>",   "<#><ON>", "<#><#>",     "<ON>.<#>",   "<ON>",     "<ON>",
-    "a",        "1",         "X",       "<OE>",       "<on><ON>",   "<on>",     "b<#>.c",
-    "<T>_<#>",  "<ON> <AR>", "a:<#>",   "<#>.<OE>",   "\u00e4<#>",  "\u00c4",   "",
+    "<#>",      "<#>",       "<#>",     "<#>",         "x<#>",      "<#>x",     "0<#>",
+    "<ON>_<#>", "<ON><#>",   "<#><ON>", "<#><#>",      "<ON>.<#>",  "<ON>",     "<ON>",
+    "a",        "1",         "X",       "<OE>",        "<on><ON>",  "<on>",     "b<#>.c",
+    "<T>_<#>",  "<ON> <AR>", "a:<#>",   "<#>.<OE>",    "\u00e4<#>", "\u00c4",   "",
     "<#",       "<OE><#>",   "<ON>#",   "<#>.<#>.<#>", "0<ON>",     "what?<#>", "<ON><OE><#>",
 };
 constexpr std::array extTemplates = {
-    "<OE>", "<OE>", "<OE>", "<OE>", "",     "",       "txt",    "TXT",
-    "<#>",  "<ON>", "a.b",  "<oe>", "<Y>",  "<#><OE>", "<OE>.<OE>",
+    "<OE>", "<OE>", "<OE>", "<OE>", "",    "",        "txt",       "TXT",
+    "<#>",  "<ON>", "a.b",  "<oe>", "<Y>", "<#><OE>", "<OE>.<OE>",
 };
 constexpr std::array plainNames = {
-    "a.txt",  "A.txt",    "a.TXT", "b.jpg",          "1.txt",     "01.txt",       "001.txt",
-    "1",      "2",        "a",     "b",              ".profile",  "archive.tar.gz", "x1.txt",
-    "a_1",    "0a.txt",   "00.txt", "\u00e4.txt",    "\u00c4.txt", "\u00e4",      "a b.txt",
-    "9.txt",  "a.b.1",    "1.1",   "x.",             "holiday.jpg",
+    "a.txt", "A.txt",  "a.TXT",  "b.jpg",      "1.txt",       "01.txt",         "001.txt",
+    "1",     "2",      "a",      "b",          ".profile",    "archive.tar.gz", "x1.txt",
+    "a_1",   "0a.txt", "00.txt", "\u00e4.txt", "\u00c4.txt",  "\u00e4",         "a b.txt",
+    "9.txt", "a.b.1",  "1.1",    "x.",         "holiday.jpg",
 };
 constexpr std::array linuxNames = {
-    "a:1.txt", "what?.txt", "*", "back\\slash.txt", "\xff.txt", "new\nline.txt", "tail. ", "<on>",
-    "what?1.txt", "\u65e5\u672c.txt", "con", "nul.txt", "\xe4.txt", "a:1",
+    "a:1.txt",  "what?.txt", "*",          "back\\slash.txt",  "\xff.txt", "new\nline.txt",
+    "tail. ",   "<on>",      "what?1.txt", "\u65e5\u672c.txt", "con",      "nul.txt",
+    "\xe4.txt", "a:1",
 };
 constexpr std::array extensions = {"txt", "TXT", "jpg", "", "gz"};
 
@@ -144,8 +145,8 @@ bool Maker::IsGood(const std::string& name) const
         return false;
     if (task_.System == Dialect::Linux)
         return name.find('/') == name.npos;
-    return name.find_first_of("\\/:*?\"<>|") == name.npos && name.back() != '.' &&
-           name.back() != ' ';
+    return name.find_first_of("\\/:*?\"<>|") == name.npos && name.back() != '.'
+           && name.back() != ' ';
 }
 
 // A file or folder of that name, unless there is one.
@@ -356,8 +357,8 @@ std::string Rows_Text(const std::vector<Row>& rows)
     std::string out;
     int pos = 0;
     for (const Row& row : rows)
-        out += "  " + std::to_string(++pos) + (row.Selected ? " * " : "   ") + row.Path + " | " +
-               row.Name + " | " + row.Type + " | " + row.UndoName + " | " + row.Errors + "\n";
+        out += "  " + std::to_string(++pos) + (row.Selected ? " * " : "   ") + row.Path + " | "
+               + row.Name + " | " + row.Type + " | " + row.UndoName + " | " + row.Errors + "\n";
     return out;
 }
 
@@ -375,10 +376,11 @@ std::string Task_Text(const NnTask& task)
 {
     std::string out = task.System == Dialect::Linux ? "Linux" : "Windows";
     out += task.CaseBlind ? ", case-blind" : "";
-    out += ", template \"" + task.NameTemplate + "\" . \"" + task.ExtTemplate + "\", start \"" +
-           task.Start + "\", style " + std::to_string(task.Style) + ", digits " +
-           std::to_string(task.Digits) + ", PreList " + std::to_string(task.PreList) +
-           (task.FolderMode ? ", folders" : "") + (task.SelectedOnly ? ", selected\n" : ", all\n");
+    out += ", template \"" + task.NameTemplate + "\" . \"" + task.ExtTemplate + "\", start \""
+           + task.Start + "\", style " + std::to_string(task.Style) + ", digits "
+           + std::to_string(task.Digits) + ", PreList " + std::to_string(task.PreList)
+           + (task.FolderMode ? ", folders" : "")
+           + (task.SelectedOnly ? ", selected\n" : ", all\n");
     out += Rows_Text(task.Rows) + Disk_Text(task.Files);
     for (const auto& full : task.InUse)
         out += "  in use: " + full + "\n";
@@ -389,10 +391,10 @@ std::string Task_Text(const NnTask& task)
 
 std::string Outcome_Text(const NnOutcome& outcome)
 {
-    return "renamed " + std::to_string(outcome.Renamed) + ", errors " +
-           std::to_string(outcome.Errors) + ", unnecessary " +
-           std::to_string(outcome.Unnecessary) + (outcome.Endless ? ", endless\n" : "\n") +
-           Rows_Text(outcome.Rows) + Disk_Text(outcome.Files);
+    return "renamed " + std::to_string(outcome.Renamed) + ", errors "
+           + std::to_string(outcome.Errors) + ", unnecessary " + std::to_string(outcome.Unnecessary)
+           + (outcome.Endless ? ", endless\n" : "\n") + Rows_Text(outcome.Rows)
+           + Disk_Text(outcome.Files);
 }
 
 } // namespace tavo::model

@@ -10,7 +10,7 @@ namespace tavo {
 // The program's own sources as text, for tests of how the house is built.
 
 struct IncludeLine {
-    std::string Name;     // what stands between the quotes or brackets
+    std::string Name; // what stands between the quotes or brackets
     bool Bracketed = false;
     int Line = 0; // from 1
     friend bool operator==(const IncludeLine&, const IncludeLine&) = default;

@@ -213,9 +213,9 @@ TEST(MemoryDisk, A_link_is_listed_as_a_link_and_leads_on)
     EXPECT_EQ(disk.ReadWhole("/d/sub/up/sub/x.txt", 10), "far");
     EXPECT_EQ(Rename(disk, "/d/file", "/d/other"), 0);
     EXPECT_TRUE(disk.Has("/d/sub/x.txt"));
-    EXPECT_EQ(disk.Dump(), (Texts{"/d/", "/d/gone -> /nowhere", "/d/other -> /d/sub/x.txt",
-                                  "/d/round -> /d/round", "/d/sub/", "/d/sub/up -> /d",
-                                  "/d/sub/x.txt = far"}));
+    EXPECT_EQ(disk.Dump(),
+              (Texts{"/d/", "/d/gone -> /nowhere", "/d/other -> /d/sub/x.txt",
+                     "/d/round -> /d/round", "/d/sub/", "/d/sub/up -> /d", "/d/sub/x.txt = far"}));
 }
 
 struct RenameCase {

@@ -82,8 +82,8 @@ struct StartCase {
 
 TEST(NnModel, Start_texts_are_numbers_or_letters)
 {
-    const StartCase cases[] = {{"1", 1, 1},  {"007", 1, 7}, {"", 1, 0},    {"12ab", 1, 12},
-                               {"b", 2, 1},  {"ba", 2, 26}, {"BAZ", 3, 701}, {"a", 2, 0}};
+    const StartCase cases[] = {{"1", 1, 1}, {"007", 1, 7}, {"", 1, 0},      {"12ab", 1, 12},
+                               {"b", 2, 1}, {"ba", 2, 26}, {"BAZ", 3, 701}, {"a", 2, 0}};
     for (const auto& row : cases)
         EXPECT_EQ(Counter_Start(row.Text, row.Style), row.Wanted) << row.Text;
 }

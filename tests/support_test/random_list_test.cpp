@@ -59,7 +59,8 @@ TEST(RandomList, The_model_loses_no_content)
     ForEachTask([](const NnTask& task, std::uint32_t seed) {
         const NnOutcome outcome = Nn_Model_Run(task);
         EXPECT_EQ(Contents_Of(outcome.Files), Contents_Of(task.Files))
-            << seed << "\n" << Task_Text(task) << Outcome_Text(outcome);
+            << seed << "\n"
+            << Task_Text(task) << Outcome_Text(outcome);
     });
 }
 
@@ -73,8 +74,8 @@ TEST(RandomList, Tasks_meet_all_that_can_happen)
         met["all"] += !task.SelectedOnly;
         met["PreList"] += task.PreList;
         met["folders"] += task.FolderMode;
-        met["several folders"] += !task.Rows.empty() &&
-                                  task.Rows.front().Path != task.Rows.back().Path;
+        met["several folders"] +=
+            !task.Rows.empty() && task.Rows.front().Path != task.Rows.back().Path;
         met["renamed"] += outcome.Renamed > 0;
         met["errors"] += outcome.Errors > 0;
         met["unnecessary"] += outcome.Unnecessary > 0;
@@ -88,14 +89,12 @@ TEST(RandomList, Tasks_meet_all_that_can_happen)
                 task.Files.count(row.Path + row.Name) != 0 && row.Name != task.Rows[i].Name;
         }
     });
-    for (const char* what :
-         {"rows", "all", "PreList", "folders", "several folders", "renamed", "errors",
-          "unnecessary", "errors below 0", "Missing", "Access Denied", "Name Conflict",
-          "left aside", "content changed hands"})
+    for (const char* what : {"rows", "all", "PreList", "folders", "several folders", "renamed",
+                             "errors", "unnecessary", "errors below 0", "Missing", "Access Denied",
+                             "Name Conflict", "left aside", "content changed hands"})
         EXPECT_GT(met[what], 20) << what;
     EXPECT_LT(met["endless"], 60);
 }
-
 
 // Codes that come to the same for a row.
 int Kind_OfCode(int code)
@@ -124,8 +123,7 @@ TEST(RandomList, The_disks_of_model_and_tests_agree_on_renames)
                 EXPECT_EQ(exists, model.Exists(row.Path, name)) << row.Path << name;
                 const int code =
                     disk.SHFileOperationA({foRename, row.Path + row.Name, row.Path + name, 20});
-                EXPECT_EQ(Kind_OfCode(code),
-                          Kind_OfCode(model.Rename(row.Path, row.Name, name)))
+                EXPECT_EQ(Kind_OfCode(code), Kind_OfCode(model.Rename(row.Path, row.Name, name)))
                     << row.Path << row.Name << " -> " << name;
             }
         }

@@ -24,8 +24,7 @@ TEST(ScriptedDesktop, Boxes_get_their_answers_and_then_the_default_button)
     desktop.Answer(BoxAnswer::Cancel);
     EXPECT_EQ(desktop.MsgBox(Box("1", BoxButtons::OkCancel)), BoxAnswer::Cancel);
     EXPECT_EQ(desktop.MsgBox(Box("2", BoxButtons::OkCancel)), BoxAnswer::Ok);
-    EXPECT_EQ(desktop.MsgBox(Box("3", BoxButtons::OkCancel, BoxAnswer::Cancel)),
-              BoxAnswer::Cancel);
+    EXPECT_EQ(desktop.MsgBox(Box("3", BoxButtons::OkCancel, BoxAnswer::Cancel)), BoxAnswer::Cancel);
     EXPECT_EQ(desktop.MsgBox(Box("4", BoxButtons::YesNo)), BoxAnswer::Yes);
     EXPECT_EQ(desktop.MsgBox(Box("5", BoxButtons::YesNo, BoxAnswer::No)), BoxAnswer::No);
     EXPECT_EQ(desktop.MsgBox(Box("6", BoxButtons::Ok)), BoxAnswer::Ok);

@@ -18,7 +18,11 @@ TEST(TextPoints, Upper_case_is_one_to_one)
         {"sharp s stays", "\u00df", "\u00df"},
         {"pairs", "\u0161\u0153\u017e", "\u0160\u0152\u017d"},
         {"greek and cyrillic", "\u03b1\u0439\u0451", "\u0391\u0419\u0401"},
-        {"stray bytes", "\xe4\xff" "a", "\xe4\xff" "A"},
+        {"stray bytes",
+         "\xe4\xff"
+         "a",
+         "\xe4\xff"
+         "A"},
         {"no case", "\u65e5", "\u65e5"},
     };
     for (const auto& row : cases)
@@ -33,9 +37,13 @@ struct CountCase {
 TEST(TextPoints, A_byte_that_is_no_utf8_is_a_character)
 {
     const CountCase cases[] = {
-        {"plain", "abc", 3},        {"two bytes", "\u00e4b", 2}, {"four bytes", "\U0001F600", 1},
-        {"cut short", "\xe2\x82", 2}, {"too long a form", "\xc0\x80", 2},
-        {"half of a pair", "\xed\xa0\x80", 3}, {"beyond the last", "\xf4\x90\x80\x80", 4},
+        {"plain", "abc", 3},
+        {"two bytes", "\u00e4b", 2},
+        {"four bytes", "\U0001F600", 1},
+        {"cut short", "\xe2\x82", 2},
+        {"too long a form", "\xc0\x80", 2},
+        {"half of a pair", "\xed\xa0\x80", 3},
+        {"beyond the last", "\xf4\x90\x80\x80", 4},
         {"nothing", "", 0},
     };
     for (const auto& row : cases)

@@ -24,10 +24,9 @@ TEST(CodePage, Every_byte_goes_there_and_back)
 TEST(CodePage, Bytes_80_to_9F_have_characters_of_their_own)
 {
     const char32_t codes[32] = {
-        0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-        0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
-        0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178,
+        0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+        0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+        0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178,
     };
     for (unsigned i = 0; i < 256; ++i) {
         const char32_t wanted = i >= 0x80 && i < 0xA0 ? codes[i - 0x80] : i;
@@ -52,7 +51,10 @@ TEST(CodePage, Characters_outside_become_question_marks)
         {"alpha", "\xCE\xB1", "?"},
         {"minus sign", "\xE2\x88\x92", "?"},
         {"full-width star", "\xEF\xBC\x8A", "?"},
-        {"beyond the first plane", "a\xF0\x9F\x98\x80" "b", "a?b"},
+        {"beyond the first plane",
+         "a\xF0\x9F\x98\x80"
+         "b",
+         "a?b"},
         {"combining grave", "e\xCC\x80", "e?"},
         {"control 80", "\xC2\x80", "?"},
         {"control 81", "\xC2\x81", "\x81"},

@@ -44,8 +44,14 @@ TEST(Collation, Word_sort_puts_texts_in_their_order)
         {"C:\\a b\\", "C:\\a.b\\", "C:\\a\\", "C:\\a\\b\\", "C:\\a_b\\", "C:\\ab\\", "C:\\a-b\\"},
         {"", "a"},
         {"ab", "a-b", "-ab", "-a-b", "--ab", "ac"},
-        {"a-b", "a'b", "a\x96" "b", "a\x97" "b"},
-        {"aa", "a\xE4", "\xE4" "a"},
+        {"a-b", "a'b",
+         "a\x96"
+         "b",
+         "a\x97"
+         "b"},
+        {"aa", "a\xE4",
+         "\xE4"
+         "a"},
         {"co-op", "c\xF6op"},
     };
     for (const Chain& chain : chains) {
@@ -62,7 +68,11 @@ TEST(Collation, Word_sort_orders_the_characters_of_the_page)
         "\xA1\xA6\xA8\xAF\xB4\xB8\xBF\x98\x91\x92\x82\x93\x94\x84\x8B\x9B"
         "\xA2\xA3\xA4\xA5\x80+<=>\xB1\xAB\xBB\xD7\xF7"
         "\xA7\xA9\xAC\xAE\xB0\xB5\xB6\xB7\x85\x86\x87\x95\x89\x81\x8D\x8F\x90\x9D"
-        "0\xBC\xBD\xBE" "1\xB9" "2\xB2" "3\xB3" "456789abcdefghijklmnopqrstuvwxyz";
+        "0\xBC\xBD\xBE"
+        "1\xB9"
+        "2\xB2"
+        "3\xB3"
+        "456789abcdefghijklmnopqrstuvwxyz";
     for (std::size_t i = 1; i < order.size(); ++i) {
         const std::string before(1, order[i - 1]);
         const std::string behind(1, order[i]);
@@ -75,7 +85,9 @@ TEST(Collation, Word_sort_takes_these_as_equal)
     const std::string_view pairs[][2] = {
         {"AbC", "aBc"},
         {"\xDF", "ss"},
-        {"stra\xDF" "e", "STRASSE"},
+        {"stra\xDF"
+         "e",
+         "STRASSE"},
         {"\xE6", "ae"},
         {"\xC6", "AE"},
         {"^", "\x88"},
@@ -97,8 +109,9 @@ TEST(Collation, Word_sort_gives_every_byte_a_place)
         const bool onlyBreaksTies = ties.find(one) != std::string_view::npos;
         EXPECT_EQ(key < WordKeyOf(std::string_view("\0", 1)), onlyBreaksTies) << byte;
         EXPECT_LE(key, WordKeyOf("z\x9E\x9E")) << byte;
-        EXPECT_EQ(key, WordKeyOf(std::string(1, static_cast<char>(Cp1252Upper(
-                           static_cast<unsigned char>(byte)))))) << byte;
+        EXPECT_EQ(key, WordKeyOf(std::string(
+                           1, static_cast<char>(Cp1252Upper(static_cast<unsigned char>(byte))))))
+            << byte;
     }
 }
 
@@ -114,9 +127,32 @@ TEST(Collation, Word_sort_puts_other_characters_behind_the_letters)
 TEST(Collation, Code_points_go_by_number_without_case_stray_bytes_last)
 {
     const std::string_view order[] = {
-        "",  " ",     "-",        "1",            "[",  "_",    "`", "A", "a b",
-        "ab", "AC", "b", "{", "\xC2\xA0", "\xC3\x84", "\xC3\xA4" "a", "\xCE\xB1",
-        "\xE2\x82\xAC", "\xF0\x9F\x98\x80", "\xF4\x8F\xBF\xBF", "\x80", "\xC3", "\xC3" "a", "\xFF",
+        "",
+        " ",
+        "-",
+        "1",
+        "[",
+        "_",
+        "`",
+        "A",
+        "a b",
+        "ab",
+        "AC",
+        "b",
+        "{",
+        "\xC2\xA0",
+        "\xC3\x84",
+        "\xC3\xA4"
+        "a",
+        "\xCE\xB1",
+        "\xE2\x82\xAC",
+        "\xF0\x9F\x98\x80",
+        "\xF4\x8F\xBF\xBF",
+        "\x80",
+        "\xC3",
+        "\xC3"
+        "a",
+        "\xFF",
     };
     for (std::size_t i = 1; i < std::size(order); ++i)
         EXPECT_LT(KeyOf(order[i - 1], Collation::CodePoint), KeyOf(order[i], Collation::CodePoint))
@@ -126,8 +162,10 @@ TEST(Collation, Code_points_go_by_number_without_case_stray_bytes_last)
 std::string RandomText(std::mt19937& random)
 {
     static constexpr std::string_view Pieces[] = {
-        "a", "A", "b", "-", " ", "\xC3\xA4", "\xC3\x84", "\xC3\xA9", "k", "\xE2\x84\xAA",
-        "\xFF", "\xC3", "\xA9", "\xC3\x9F", "s", "\xCE\xB1", "_", "1",
+        "a",        "A",        "b",        "-",        " ",
+        "\xC3\xA4", "\xC3\x84", "\xC3\xA9", "k",        "\xE2\x84\xAA",
+        "\xFF",     "\xC3",     "\xA9",     "\xC3\x9F", "s",
+        "\xCE\xB1", "_",        "1",
     };
     std::string text;
     for (unsigned left = random() % 7; left > 0; --left)
@@ -159,8 +197,8 @@ TEST(Collation, Code_point_keys_compare_as_the_folded_characters_do)
     for (int round = 0; round < 50000; ++round) {
         const std::string left = RandomText(random);
         const std::string right = RandomText(random);
-        const int order = KeyOf(left, Collation::CodePoint)
-                              .compare(KeyOf(right, Collation::CodePoint));
+        const int order =
+            KeyOf(left, Collation::CodePoint).compare(KeyOf(right, Collation::CodePoint));
         const int wanted = FoldedOrder(left, right);
         ASSERT_EQ(order < 0, wanted < 0) << left << ", " << right;
         ASSERT_EQ(order == 0, SameText(left, right)) << left << ", " << right;

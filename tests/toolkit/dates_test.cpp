@@ -10,8 +10,8 @@ constexpr int CurrentYear = 2024;
 TEST(Dates, Days_of_a_month_know_leap_years)
 {
     const int rows[][3] = {
-        {2001, 2, 28}, {2000, 2, 29}, {1900, 2, 28}, {2004, 2, 29}, {2001, 4, 30},
-        {2001, 12, 31}, {2001, 0, 0}, {2001, 13, 0}, {2001, -1, 0},
+        {2001, 2, 28},  {2000, 2, 29}, {1900, 2, 28}, {2004, 2, 29}, {2001, 4, 30},
+        {2001, 12, 31}, {2001, 0, 0},  {2001, 13, 0}, {2001, -1, 0},
     };
     for (const auto& row : rows)
         EXPECT_EQ(Days_InMonth(row[0], row[1]), row[2]) << row[0] << '/' << row[1];
@@ -86,7 +86,7 @@ TEST(Dates, The_Modified_cell_is_the_date_by_its_mask)
 {
     for (int step = 0; step < 4000; ++step) {
         const DateTime when{100 + step * 2, step % 12 + 1, step % 28 + 1,
-                            step % 24, step % 60, step % 60};
+                            step % 24,      step % 60,     step % 60};
         const std::string text = Modified_Text(when);
         ASSERT_EQ(text, DateTime_Format(when, ModifiedMask));
         const std::string sortable = Modified_To_Sortable(text, CurrentYear);

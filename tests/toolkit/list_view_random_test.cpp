@@ -77,8 +77,8 @@ public:
         for (int i = Count(); i >= 1; --i) {
             if (!SameText(At(i).Cells[0], text) || At(i).Cells[column] != cell)
                 continue;
-            const bool better = !exact || found == 0 || At(i).Cells[0] == text ||
-                                At(found).Cells[0] != text;
+            const bool better =
+                !exact || found == 0 || At(i).Cells[0] == text || At(found).Cells[0] != text;
             found = better ? i : found;
         }
         return found;
@@ -167,8 +167,8 @@ public:
     Walk(unsigned seed, int most) : random_(seed), most_(most), mirror_(list_)
     {
         for (int column = 0; column < columns; ++column)
-            list_.AddColumn({"c" + std::to_string(column), "", 1440, false, SortMark::None,
-                             column == 1});
+            list_.AddColumn(
+                {"c" + std::to_string(column), "", 1440, false, SortMark::None, column == 1});
         list_.SetObserver(&mirror_);
     }
     ~Walk() { list_.SetObserver(nullptr); }

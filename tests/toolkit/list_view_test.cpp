@@ -400,14 +400,10 @@ TEST_F(ListViewTest, A_press_selects_by_the_keys_held_and_is_a_click)
         int Position, Shift;
         const char* Wanted;
     } const steps[] = {
-        {3, shiftNone, "ab[c]*def"},
-        {5, shiftShift, "ab[c][d][e]*f"},
-        {2, shiftShift, "a[b]*[c]def"},
-        {5, shiftCtrl, "a[b][c]d[e]*f"},
-        {3, shiftCtrl, "a[b]c*d[e]f"},
-        {4, shiftShift, "ab[c][d]*ef"},
-        {6, shiftNone, "abcde[f]*"},
-        {0, shiftNone, "abcde[f]*"},
+        {3, shiftNone, "ab[c]*def"},    {5, shiftShift, "ab[c][d][e]*f"},
+        {2, shiftShift, "a[b]*[c]def"}, {5, shiftCtrl, "a[b][c]d[e]*f"},
+        {3, shiftCtrl, "a[b]c*d[e]f"},  {4, shiftShift, "ab[c][d]*ef"},
+        {6, shiftNone, "abcde[f]*"},    {0, shiftNone, "abcde[f]*"},
     };
     for (const auto& step : steps) {
         list.PersonPress(step.Position, step.Shift);
@@ -433,28 +429,17 @@ TEST_F(ListViewTest, Keys_move_the_SelectedItem_and_select_it_alone)
     struct {
         int Code, Shift, Item, Selected;
     } const steps[] = {
-        {keyDown, shiftNone, 1, 1},
-        {keyDown, shiftNone, 2, 1},
-        {keyUp, shiftNone, 1, 1},
-        {keyUp, shiftNone, 1, 1},
-        {keyPageDown, shiftNone, 21, 1},
-        {keyPageDown, shiftNone, 41, 1},
-        {keyPageDown, shiftNone, 50, 1},
-        {keyDown, shiftNone, 50, 1},
-        {keyPageUp, shiftNone, 30, 1},
-        {keyHome, shiftNone, 1, 1},
-        {keyEnd, shiftNone, 50, 1},
-        {keyUp, shiftShift, 49, 2},
-        {keyPageUp, shiftShift, 29, 22},
-        {keyDown, shiftShift, 30, 21},
-        {keyEnd, shiftShift, 50, 1},
-        {keyUp, shiftCtrl, 49, 1},
-        {keySpace, shiftCtrl, 49, 2},
-        {keyUp, shiftShift, 48, 2},
-        {keySpace, shiftNone, 48, 1},
-        {keyDown, shiftAlt, 48, 1},
-        {'A', shiftNone, 48, 1},
-        {keyReturn, shiftNone, 48, 1},
+        {keyDown, shiftNone, 1, 1},      {keyDown, shiftNone, 2, 1},
+        {keyUp, shiftNone, 1, 1},        {keyUp, shiftNone, 1, 1},
+        {keyPageDown, shiftNone, 21, 1}, {keyPageDown, shiftNone, 41, 1},
+        {keyPageDown, shiftNone, 50, 1}, {keyDown, shiftNone, 50, 1},
+        {keyPageUp, shiftNone, 30, 1},   {keyHome, shiftNone, 1, 1},
+        {keyEnd, shiftNone, 50, 1},      {keyUp, shiftShift, 49, 2},
+        {keyPageUp, shiftShift, 29, 22}, {keyDown, shiftShift, 30, 21},
+        {keyEnd, shiftShift, 50, 1},     {keyUp, shiftCtrl, 49, 1},
+        {keySpace, shiftCtrl, 49, 2},    {keyUp, shiftShift, 48, 2},
+        {keySpace, shiftNone, 48, 1},    {keyDown, shiftAlt, 48, 1},
+        {'A', shiftNone, 48, 1},         {keyReturn, shiftNone, 48, 1},
     };
     int number = 0;
     for (const auto& step : steps) {
@@ -492,9 +477,9 @@ TEST_F(ListViewTest, Properties_print_by_name)
     list.SetSortOrder(1);
     list.SetView(ListLook::List);
     const char* const table[][2] = {
-        {"Count", "3"},       {"SelCount", "1"},    {"SelectedItem", "2"},
-        {"SortKey", "1"},     {"SortOrder", "1"},   {"Sorted", "False"},
-        {"View", "2"},        {"Visible", "True"},  {"Name", "lsvTest"},
+        {"Count", "3"},   {"SelCount", "1"},   {"SelectedItem", "2"},
+        {"SortKey", "1"}, {"SortOrder", "1"},  {"Sorted", "False"},
+        {"View", "2"},    {"Visible", "True"}, {"Name", "lsvTest"},
     };
     for (const auto& row : table)
         EXPECT_EQ(list.PropertyText(row[0]).value_or("none"), row[1]) << row[0];

@@ -169,9 +169,9 @@ TEST_F(RowStoreTest, Finding_takes_whole_texts_without_case_and_the_lowest_posit
         const char* Text;
         int After, Wanted;
     } const table[] = {
-        {"a", 0, 2},  {"a", -5, 2},  {"A", 2, 3},          {"a", 3, 5}, {"a", 5, 0}, {"a", 6, 0},
-        {"a", 99, 0}, {"B", 0, 1},   {"ab", 0, 4},         {"abc", 0, 0}, {"", 0, 0},
-        {"AB", 3, 4}, {"AB", 4, 0},  {"\xC3\xA4", 0, 6},
+        {"a", 0, 2}, {"a", -5, 2}, {"A", 2, 3},  {"a", 3, 5},        {"a", 5, 0},
+        {"a", 6, 0}, {"a", 99, 0}, {"B", 0, 1},  {"ab", 0, 4},       {"abc", 0, 0},
+        {"", 0, 0},  {"AB", 3, 4}, {"AB", 4, 0}, {"\xC3\xA4", 0, 6},
     };
     for (const auto& row : table)
         EXPECT_EQ(rows.FindItem(row.Text, row.After), row.Wanted) << row.Text << " " << row.After;
@@ -295,8 +295,7 @@ TEST(RowStoreMemory, A_typical_row_takes_no_more_than_256_bytes)
     const int count = 100000;
     for (int i = 0; i < count; ++i) {
         const std::string name = Padded(i, 20), path = Padded(i / 100, 60);
-        const std::string_view cells[] = {name, path, "      123 KB", "jpg",
-                                          "2001-03-09 13:05:00"};
+        const std::string_view cells[] = {name, path, "      123 KB", "jpg", "2001-03-09 13:05:00"};
         rows.Insert(i + 1, cells, 5, "P");
     }
     EXPECT_EQ(rows.FindItem(Padded(7, 20), 0), 8);

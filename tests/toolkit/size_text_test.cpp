@@ -72,12 +72,8 @@ TEST(SizeText, A_refresh_shows_the_whole_size_with_a_blank)
         std::string_view Text;
     };
     const Row rows[] = {
-        {0, "        1 KB"},
-        {1023, "        1 KB"},
-        {1024, "        2 KB"},
-        {2147483648, "2,097,153 KB"},
-        {4294967296, "4,194,305 KB"},
-        {10737418240, "0,485,761 KB"},
+        {0, "        1 KB"},          {1023, "        1 KB"},       {1024, "        2 KB"},
+        {2147483648, "2,097,153 KB"}, {4294967296, "4,194,305 KB"}, {10737418240, "0,485,761 KB"},
     };
     for (const Row& row : rows)
         EXPECT_EQ(Size_Text_Refresh(row.SizeBytes), row.Text) << row.SizeBytes;
@@ -94,11 +90,11 @@ TEST(SizeText, Cells_are_the_formatted_number_of_their_formula)
     std::mt19937_64 random(1024);
     const auto check = [](std::uint64_t size) {
         const auto low = static_cast<std::int32_t>(size & 0xFFFFFFFF);
-        ASSERT_EQ(Size_Text_Load(size),
-                  PaddedTo12(Format_KB(low / 1024.0 + 0.5, SizeMask::Joined))) << size;
+        ASSERT_EQ(Size_Text_Load(size), PaddedTo12(Format_KB(low / 1024.0 + 0.5, SizeMask::Joined)))
+            << size;
         ASSERT_EQ(Size_Text_Refresh(size),
-                  PaddedTo12(Format_KB(static_cast<double>(size) / 1024 + 0.5,
-                                       SizeMask::Spaced))) << size;
+                  PaddedTo12(Format_KB(static_cast<double>(size) / 1024 + 0.5, SizeMask::Spaced)))
+            << size;
     };
     for (std::uint64_t size = 0; size < 5000; ++size) {
         check(size);

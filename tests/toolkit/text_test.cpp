@@ -172,7 +172,12 @@ TEST(Text, Case_is_changed_one_to_one)
         {"MiXed 123_[`{@", "mixed 123_[`{@", "MIXED 123_[`{@"},
         {"a long ASCII Name.JPG", "a long ascii name.jpg", "A LONG ASCII NAME.JPG"},
         {"\xC3\x84\xC3\xB6\xC3\x9F", "\xC3\xA4\xC3\xB6\xC3\x9F", "\xC3\x84\xC3\x96\xC3\x9F"},
-        {"A\xFF" "a", "a\xFF" "a", "A\xFF" "A"},
+        {"A\xFF"
+         "a",
+         "a\xFF"
+         "a",
+         "A\xFF"
+         "A"},
         {"\xCE\xA3\xCF\x82", "\xCF\x83\xCF\x82", "\xCE\xA3\xCE\xA3"},
         {"\xC3\xBF", "\xC3\xBF", "\xC5\xB8"},
         {"\xD0\x96\xD0\xB6", "\xD0\xB6\xD0\xB6", "\xD0\x96\xD0\x96"},
@@ -203,14 +208,20 @@ TEST(Text, SameText_knows_no_case)
         {"[", "{", false},
         {"\xC3\xA4", "\xC3\x84", true},
         {"k", "\xE2\x84\xAA", true},
-        {"\xE2\x84\xAA" "a", "KA", true},
+        {"\xE2\x84\xAA"
+         "a",
+         "KA", true},
         {"s", "\xC5\xBF", true},
         {"\xCF\x82", "\xCE\xA3", true},
         {"\xC3\x9F", "ss", false},
         {"\xFF", "\xFF", true},
         {"\xFF", "\xFE", false},
         {"\xE9", "\xC3\xA9", false},
-        {"a\xFF" "B", "A\xFF" "b", true},
+        {"a\xFF"
+         "B",
+         "A\xFF"
+         "b",
+         true},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(SameText(row.Left, row.Right), row.IsSame) << row.Left << ", " << row.Right;
@@ -277,7 +288,9 @@ TEST(Text, Cuts_by_bytes_split_no_character)
         {"abc", 0, "", ""},
         {"abc", 9, "abc", "abc"},
         {"a\xC3\xA9", 2, "a", "\xC3\xA9"},
-        {"\xC3\xA9" "a", 2, "\xC3\xA9", "a"},
+        {"\xC3\xA9"
+         "a",
+         2, "\xC3\xA9", "a"},
         {"\xF0\x9F\x98\x80", 3, "", ""},
         {"\xF0\x9F\x98\x80", 4, "\xF0\x9F\x98\x80", "\xF0\x9F\x98\x80"},
         {"\x80\x80\x80", 2, "\x80\x80", "\x80\x80"},
@@ -285,8 +298,7 @@ TEST(Text, Cuts_by_bytes_split_no_character)
     };
     for (const Row& row : rows) {
         EXPECT_EQ(CutBytes(row.Text, row.MaxBytes), row.Front) << row.Text << row.MaxBytes;
-        EXPECT_EQ(RightWithinBytes(row.Text, row.MaxBytes), row.Back)
-            << row.Text << row.MaxBytes;
+        EXPECT_EQ(RightWithinBytes(row.Text, row.MaxBytes), row.Back) << row.Text << row.MaxBytes;
     }
 }
 
@@ -297,8 +309,22 @@ public:
     std::string Next(int mostPieces)
     {
         static constexpr std::string_view Pieces[] = {
-            "a", "K", "z", " ", "\xC3\xA9", "\xC3\x89", "\xE2\x82\xAC", "\xE2\x84\xAA",
-            "\xF0\x9F\x98\x80", "\xC3", "\xA9", "\xE2", "\x82", "\xF0\x9F", "\xFF", "\xED\xA0\x80",
+            "a",
+            "K",
+            "z",
+            " ",
+            "\xC3\xA9",
+            "\xC3\x89",
+            "\xE2\x82\xAC",
+            "\xE2\x84\xAA",
+            "\xF0\x9F\x98\x80",
+            "\xC3",
+            "\xA9",
+            "\xE2",
+            "\x82",
+            "\xF0\x9F",
+            "\xFF",
+            "\xED\xA0\x80",
         };
         std::string text;
         for (int left = Number(0, mostPieces); left > 0; --left)

@@ -24,14 +24,12 @@ bool Read_Whole(const std::string& word, int& value, Outcome& outcome)
 
 bool Read_Positive(const std::string& word, int& value, Outcome& outcome)
 {
-    return (Read_All(word, value) && value >= 1)
-           || outcome.Fail(word + " is no number from 1 on");
+    return (Read_All(word, value) && value >= 1) || outcome.Fail(word + " is no number from 1 on");
 }
 
 bool Read_Number(const std::string& word, double& value, Outcome& outcome)
 {
-    return (Read_All(word, value) && std::isfinite(value))
-           || outcome.Fail(word + " is no number");
+    return (Read_All(word, value) && std::isfinite(value)) || outcome.Fail(word + " is no number");
 }
 
 } // namespace tavo::console

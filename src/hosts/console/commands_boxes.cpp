@@ -146,8 +146,7 @@ bool Do_DropDown(Session& session, const Words& words, Outcome& outcome)
 bool Do_Tab(Session& session, const Words& words, Outcome& outcome)
 {
     Named found;
-    return session.Find(words[0], found, outcome)
-           && outcome.Fail(words[0] + " has no pages");
+    return session.Find(words[0], found, outcome) && outcome.Fail(words[0] + " has no pages");
 }
 
 } // namespace

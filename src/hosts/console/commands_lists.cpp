@@ -15,8 +15,7 @@ bool Read_Range(const std::string& word, int count, int& first, int& last, Outco
 {
     const auto dash = word.find('-');
     const std::string end = dash == std::string::npos ? word : word.substr(dash + 1);
-    if (!Read_Positive(word.substr(0, dash), first, outcome)
-        || !Read_Positive(end, last, outcome))
+    if (!Read_Positive(word.substr(0, dash), first, outcome) || !Read_Positive(end, last, outcome))
         return false;
     if (first > last)
         return outcome.Fail(word + " is no range");
@@ -142,7 +141,7 @@ bool Do_Tree(Session& session, const Words& words, Outcome& outcome)
 const std::vector<CommandRow>& Commands_Lists()
 {
     static const std::vector<CommandRow> rows{
-        {"select", 2, -1, Do_Select}, {"sort", 2, 2, Do_Sort},         {"rows", 1, -1, Do_Rows},
+        {"select", 2, -1, Do_Select},    {"sort", 2, 2, Do_Sort},       {"rows", 1, -1, Do_Rows},
         {"selected", 1, 1, Do_Selected}, {"columns", 1, 1, Do_Columns}, {"tree", 1, 1, Do_Tree},
     };
     return rows;

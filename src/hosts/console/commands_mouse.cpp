@@ -65,8 +65,7 @@ bool Do_Drop(Session& session, const Words& words, Outcome& outcome)
 
 // Both ends of a drag; the first must be a control that lets itself be
 // dragged. A drag that hovers goes on from where it is.
-bool Reach_Drag(Session& session, const Words& words, ListView*& from, Named& to,
-                Outcome& outcome)
+bool Reach_Drag(Session& session, const Words& words, ListView*& from, Named& to, Outcome& outcome)
 {
     double x = 0, y = 0;
     if (!Read_Number(words[2], x, outcome) || !Read_Number(words[3], y, outcome))
@@ -120,9 +119,9 @@ bool Do_Dragged(Session& session, const Words&, Outcome& outcome)
 const std::vector<CommandRow>& Commands_Mouse()
 {
     static const std::vector<CommandRow> rows{
-        {"mouse", 4, 7, Do_Mouse},         {"drop", 2, -1, Do_Drop},
-        {"dragdrop", 4, 4, Do_DragDrop},   {"dragover", 4, 4, Do_DragOver},
-        {"scroll", 2, 2, Do_Scroll},       {"scrolling", 2, 2, Do_Scroll},
+        {"mouse", 4, 7, Do_Mouse},       {"drop", 2, -1, Do_Drop},
+        {"dragdrop", 4, 4, Do_DragDrop}, {"dragover", 4, 4, Do_DragOver},
+        {"scroll", 2, 2, Do_Scroll},     {"scrolling", 2, 2, Do_Scroll},
         {"dragged", 0, 0, Do_Dragged},
     };
     return rows;

@@ -124,8 +124,9 @@ bool Do_During(Session& session, const Words& words, Outcome& outcome)
 const std::vector<CommandRow>& Commands_Windows()
 {
     static const std::vector<CommandRow> rows{
-        {"window", 2, 2, Do_Window}, {"resize", 3, 3, Do_Resize}, {"close", 1, 1, Do_Close},
-        {"exit", 0, 0, Do_Exit},     {"tick", 1, 2, Do_Tick},     {"answer", 1, -1, Do_Answer},
+        {"window", 2, 2, Do_Window},       {"resize", 3, 3, Do_Resize},
+        {"close", 1, 1, Do_Close},         {"exit", 0, 0, Do_Exit},
+        {"tick", 1, 2, Do_Tick},           {"answer", 1, -1, Do_Answer},
         {"clipboard", 1, 1, Do_Clipboard}, {"during", 2, -1, Do_During},
     };
     return rows;

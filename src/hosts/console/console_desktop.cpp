@@ -54,8 +54,8 @@ std::string Buttons_Name(BoxButtons buttons)
 
 std::string Icon_Name(BoxIcon icon)
 {
-    static constexpr std::array<const char*, 5> names{"none", "critical", "question",
-                                                      "exclamation", "information"};
+    static constexpr std::array<const char*, 5> names{"none", "critical", "question", "exclamation",
+                                                      "information"};
     return names[static_cast<std::size_t>(icon)];
 }
 

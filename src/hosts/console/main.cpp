@@ -13,8 +13,7 @@
 namespace {
 
 constexpr int exitWrongArguments = 2;
-constexpr const char* usage =
-    "usage: tavo-console [--app-folder DIR] [-f FILE] [-k] [PATH...]\n";
+constexpr const char* usage = "usage: tavo-console [--app-folder DIR] [-f FILE] [-k] [PATH...]\n";
 
 struct Arguments {
     std::string AppFolder, CommandFile;

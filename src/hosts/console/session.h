@@ -115,8 +115,8 @@ private:
 
     Streams streams_;
     const bool keepGoing_;
-    int line_ = 0;     // of the line read last
-    int current_ = 0;  // of the command in hand
+    int line_ = 0;    // of the line read last
+    int current_ = 0; // of the command in hand
     bool failed_ = false, stopped_ = false;
     std::vector<Kept> next_;
     std::vector<Frame> frames_;
