@@ -18,7 +18,7 @@ bool Find_Reached(Session& session, const std::string& name, Named& found, Outco
 void Click_Named(const Named& found)
 {
     const bool isPlainTool = found.AsTool && found.Target == found.AsTool;
-    if (isPlainTool)
+    if (isPlainTool && found.Bars)
         found.Bars->PersonClick(*found.AsTool);
     else
         found.Target->PersonClick();

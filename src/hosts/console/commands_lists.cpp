@@ -92,6 +92,7 @@ bool Do_Rows(Session& session, const Words& words, Outcome& outcome)
     }
     for (int row = 1; row <= list->Count(); ++row) {
         std::vector<std::string> cells;
+        cells.reserve(readers.size());
         for (const CellReader& read : readers)
             cells.push_back(read(row));
         outcome.PrintRow(cells);
