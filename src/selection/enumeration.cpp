@@ -196,7 +196,9 @@ void Sel_List_Fill(Program& p, const std::string& path, bool subFolders, const s
     Cursor_Busy(p, false);
     list.SetAllSelected(false);
     list.SetSelectedItem(0);
+    // No row is in hand: a splitter must not fit the old picture in again.
     main.imgSelPreview.Visible = false;
+    main.imgSelPreview.Picture = PictureRef();
     main.SetCaption(std::string(appTitle));
     main.stbMain.SetPanel(1, "Total: " + std::to_string(list.Count()));
     main.stbMain.SetPanel(3, "Selected: 0");
