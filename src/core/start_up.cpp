@@ -26,6 +26,11 @@ constexpr std::array<std::string_view, 9> sectionsInOrder = {
     "CaseWordList", "Favorites", "Filters",  "Templates", "ThumbSchemes",
     "Windows",      "Defaults",  "Settings", "Position"};
 
+// And in which they are written. The word list is not among them: it is
+// written where it is edited, and nowhere else.
+constexpr std::array<std::string_view, 7> sectionsToSave = {
+    "Defaults", "Settings", "Templates", "Favorites", "Filters", "ThumbSchemes", "Windows"};
+
 void State_Begin(SharedState& state)
 {
     state.PrevMode = modeEmpty;
@@ -38,7 +43,7 @@ void State_Begin(SharedState& state)
 
 std::string Settings_File(Program& p)
 {
-    const std::string own = p.state.AppFolder + "Tavo.ini";
+    const std::string own = Ini_OwnFile(p);
     return File_Exists(p.files, own) ? own : p.state.AppFolder + "Default.ini";
 }
 
@@ -63,19 +68,16 @@ void Screens_Stack(FrmMain& main)
         control->Move(0, 0, control->Width, control->Height);
 }
 
-bool IsFolder(Program& p, std::string path)
-{
-    return Folder_Exists(p.files, path);
-}
-
+// A folder that was looked for has lost its separator: it comes back when the
+// tree reports it.
 void CommandLine_Take(Program& p)
 {
     SharedState& s = p.state;
-    const std::string folder = Command_Folder(p.info.CommandText, p.files.Rules());
+    std::string folder = Command_Folder(p.info.CommandText, p.files.Rules());
     if (!folder.empty())
-        s.StartPath = IsFolder(p, folder) ? folder : "";
+        s.StartPath = Folder_Exists(p.files, folder) ? folder : "";
     else
-        s.StartPath = IsFolder(p, s.CurFile) ? s.CurFile : s.AppFolder;
+        s.StartPath = Folder_Exists(p.files, s.CurFile) ? s.CurFile : s.AppFolder;
 }
 
 void FirstScreen_Show(Program& p)
@@ -179,6 +181,15 @@ void Form_Load(Program& p)
 
 void Form_Unload(Program& p)
 {
+    const std::string file = Ini_OwnFile(p);
+    {
+        const ProfileSave save(p.profile, file);
+        if (p.state.SaveDef == 1)
+            for (const std::string_view section : sectionsToSave)
+                Ini_Save(p, std::string(section), file);
+        if (p.state.SavePos == 1)
+            Ini_Save(p, "Position", file);
+    }
     p.state.MainAlive = false;
 }
 

@@ -5,6 +5,7 @@
 #include "selection/paths.h"
 #include "settings/named_lists.h"
 #include "settings/settings_table.h"
+#include "settings/window_layout.h"
 #include "toolkit/numbers.h"
 #include "toolkit/text.h"
 
@@ -165,10 +166,10 @@ void MainWindow_Place(Program& p, const WindowPos& pos)
 
 void Position_Load(Program& p, const std::string& section, const std::string& file)
 {
-    constexpr std::string_view nowhere = "0,0,0,0,0";
-    Pos_Parse(p.state.MainPos, Ini_Get(p, section, "Main", std::string(nowhere), file));
+    const std::string nowhere(nowhereRecord);
+    Pos_Parse(p.state.MainPos, Ini_Get(p, section, "Main", nowhere, file));
     MainWindow_Place(p, p.state.MainPos);
-    Pos_Parse(p.state.ViewerPos, Ini_Get(p, section, "Viewer", std::string(nowhere), file));
+    Pos_Parse(p.state.ViewerPos, Ini_Get(p, section, "Viewer", nowhere, file));
 }
 
 struct Section {

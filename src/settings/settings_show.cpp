@@ -191,4 +191,21 @@ void Show_View(Program& p, const std::string&)
     View_Set(p, p.state.lsvView);
 }
 
+// No folder has been in hand when the start was given one that does not exist
+// and the tree was not asked. The separator alone would be a folder where the
+// root keeps its slash, and the next start would go there.
+std::string Take_Path(Program& p)
+{
+    const PathRules& rules = p.files.Rules();
+    if (p.state.StartPath.empty() && rules.RootKeepsSlash)
+        return {};
+    return Path_AddSlash(p.state.StartPath, rules);
+}
+
+std::string Take_Distance(Program& p)
+{
+    const TextBox* box = Tool_Box(p, "ID_SelDistance");
+    return box ? box->Text.Get() : std::string();
+}
+
 } // namespace tavo

@@ -2,8 +2,9 @@
 
 #include <string>
 
-// How a value just read reaches its controls. Each takes the text as read;
-// the variable behind it is already set.
+// How a value just read reaches its controls (Show), and where the text to be
+// saved comes from when no variable holds it (Take). Each Show takes the text
+// as read; the variable behind it is already set.
 namespace tavo {
 
 class Program;
@@ -33,5 +34,9 @@ void Show_TimeChecks(Program& p, const std::string& text);
 void Show_MoveMode(Program& p, const std::string& text);
 void Show_Distance(Program& p, const std::string& text);
 void Show_View(Program& p, const std::string& text);
+
+// The folder of the selection screen, with its separator at the end.
+std::string Take_Path(Program& p);
+std::string Take_Distance(Program& p);
 
 } // namespace tavo

@@ -24,7 +24,7 @@ constexpr Setting table[] = {
     {"Settings", "AutoThumbs", plain, "0", any},
     {"Settings", "RetRename", plain, "1", any},
 
-    {"Defaults", "Path", plain, "", any, Show_Path},
+    {"Defaults", "Path", plain, "", any, Show_Path, Take_Path},
     {"Defaults", "RenMode", plain, "4", {0, 6, 4}, Show_RenMode},
     {"Defaults", "ColViewWin", plain, "-2147483643", any},
     {"Defaults", "Scheme", plain, "0", any},
@@ -57,7 +57,7 @@ constexpr Setting table[] = {
     {"Defaults", "dtMod", plain, "0", any, Show_TimeChecks},
     {"Defaults", "dtAccess", plain, "0", any, Show_TimeChecks},
     {"Defaults", "mcdMode", plain, "2", {1, 2, 2}, Show_MoveMode},
-    {"Defaults", "SortDis", plain, "1", any, Show_Distance},
+    {"Defaults", "SortDis", plain, "1", any, Show_Distance, Take_Distance},
     {"Defaults", "lsvView", plain, "3", {2, 3, 3}, Show_View},
 };
 

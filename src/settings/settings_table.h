@@ -22,14 +22,16 @@ struct SettingRange {
 };
 
 // One key of the settings file. Its variable has the key's own name; a key
-// without one hands its text to `Show` alone. `Show` brings the value to the
-// controls that it belongs to; null where it has none.
+// without one hands its text to `Show` alone, and `Take` gives the text to be
+// saved. `Show` brings the value to the controls that it belongs to; null
+// where it has none.
 struct Setting {
     std::string_view Section, Key;
     SettingForm Form = SettingForm::Plain;
     std::string_view Default;
     SettingRange Range;
     void (*Show)(Program& p, const std::string& text) = nullptr;
+    std::string (*Take)(Program& p) = nullptr;
 };
 
 // The keys of the sections Settings and Defaults, in the order of writing.

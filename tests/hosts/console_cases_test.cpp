@@ -16,8 +16,9 @@
 // `name<TAB>content`, `name/`, `name -> target`), `script` the commands,
 // `output` what the console prints (with FOLDER/ for the test's own folder,
 // then its error lines behind `!`, then `exit N`), `disk` what lies there
-// afterwards. `settings` is the settings file, `arguments` what stands on the
-// command line in place of the folder.
+// afterwards. `settings` is the settings file, `saved` what it is to be
+// afterwards, `arguments` what stands on the command line in place of the
+// folder. `again` is the script of a second start, without any arguments.
 
 using namespace tavo;
 namespace fs = std::filesystem;
@@ -91,14 +92,19 @@ std::string Quoted(const std::string& word)
     return "'" + Replaced(word, "'", "'\\''") + "'";
 }
 
-// Runs the console on the folder and gives all that it printed.
-std::string Console_Run(const TempFolder& folder, const TempFolder& app, const fs::path& plan)
+// What stands on the command line of the first start.
+std::string Arguments_Of(const fs::path& plan)
 {
-    app.Write("script", Replaced(File_Text(plan / "script"), "FOLDER/", folder.Path()));
     std::string arguments = File_Text(plan / "arguments");
     std::erase(arguments, '\n');
-    if (!fs::exists(plan / "arguments"))
-        arguments = "FOLDER/";
+    return fs::exists(plan / "arguments") ? arguments : "FOLDER/";
+}
+
+// Runs the console on the folder and gives all that it printed.
+std::string Console_Run(const TempFolder& folder, const TempFolder& app, const fs::path& script,
+                        const std::string& arguments)
+{
+    app.Write("script", Replaced(File_Text(script), "FOLDER/", folder.Path()));
     const std::string command = Quoted(std::string(TAVO_BUILD_DIR) + "/tavo-console")
                                 + " --app-folder " + Quoted(app.Path("app")) + " "
                                 + Replaced(arguments, "FOLDER/", Quoted(folder.Path())) + " < "
@@ -133,9 +139,16 @@ TEST_P(ConsoleCase, Prints_and_leaves_what_is_laid_down)
     const TempFolder app("console_app");
     app.MakeFolder("app");
     if (fs::exists(plan / "settings"))
-        app.Write("app/Tavo.ini", File_Text(plan / "settings"));
+        app.Write("app/Tavo.ini", Replaced(File_Text(plan / "settings"), "FOLDER/", folder.Path()));
     Disk_Lay(folder, File_Text(plan / "files"));
-    EXPECT_EQ(Console_Run(folder, app, plan), File_Text(plan / "output"));
+    std::string output = Console_Run(folder, app, plan / "script", Arguments_Of(plan));
+    if (fs::exists(plan / "again"))
+        output += Console_Run(folder, app, plan / "again", "");
+    EXPECT_EQ(output, File_Text(plan / "output"));
+    if (fs::exists(plan / "saved")) {
+        EXPECT_EQ(Replaced(app.Read("app/Tavo.ini"), folder.Path(), "FOLDER/"),
+                  File_Text(plan / "saved"));
+    }
     EXPECT_EQ(Disk_Tell(folder), File_Text(plan / "disk"));
 }
 

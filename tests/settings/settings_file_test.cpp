@@ -44,7 +44,7 @@ TEST_F(SettingsFile, Without_a_file_everything_stands_on_its_default)
                                    {"srMatchCase", "0"},   {"srType", "1"},
                                    {"dtCreate", "1"},      {"dtMod", "0"},
                                    {"dtAccess", "0"},      {"mcdMode", "2"},
-                                   {"lsvView", "3"},       {"CurFile", "/app/"}};
+                                   {"lsvView", "3"},       {"CurFile", "/app"}};
     Program& p = rig.Start();
     for (const Row& row : rows)
         EXPECT_EQ(Value_Of(p, row.Name), row.Text) << row.Name;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/state.h"
+
+#include <string>
+#include <string_view>
+
+namespace tavo {
+
+class Form;
+class Program;
+
+// The five fields of a window that has no place: left, top, width, height
+// (twips), state.
+inline constexpr std::string_view nowhereRecord = "0,0,0,0,0";
+
+// The five fields of a window's place, as the settings file keeps them. A
+// maximised window gives its normal place and size.
+std::string Pos_Text(const Form& form);
+std::string Pos_Text(const WindowPos& pos);
+
+// Puts the windows where a layout record has them. The record has ten fields:
+// left, top, width, height (twips) and state (0 normal, 1 minimised, 2
+// maximised, 3 as it is) of the main window, then those of the viewer.
+void Win_Layout_Apply(Program& p, const std::string& record);
+
+} // namespace tavo
