@@ -11,6 +11,7 @@ class Tool;
 // File, edit and windows (command_handlers_file.cpp)
 void Cmd_NewList(Program& p, Tool& tool);
 void Cmd_CreateList(Program& p, Tool& tool);
+void Cmd_DefSave(Program& p, Tool& tool);
 void Cmd_DefLoad(Program& p, Tool& tool);
 void Cmd_Exit(Program& p, Tool& tool);
 void Cmd_EditUndo(Program& p, Tool& tool);
@@ -20,6 +21,8 @@ void Cmd_Paste(Program& p, Tool& tool);
 void Cmd_DefaultSize(Program& p, Tool& tool);
 void Cmd_AddressBar(Program& p, Tool& tool);
 void Cmd_TextLabels(Program& p, Tool& tool);
+void Cmd_HelpContents(Program& p, Tool& tool);
+void Cmd_HelpIndex(Program& p, Tool& tool);
 
 // Selection screen (command_handlers_select.cpp)
 void Cmd_SelAll(Program& p, Tool& tool);

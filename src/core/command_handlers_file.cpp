@@ -45,11 +45,16 @@ void Cmd_CreateList(Program& p, Tool&)
     Tools_Enable(p, {"ID_MP3Tag", "ID_DateTime"}, p.state.SelFolderMode != 1);
 }
 
+void Cmd_DefSave(Program& p, Tool&)
+{
+    Ini_Save(p, "Defaults", Ini_OwnFile(p));
+}
+
 void Cmd_DefLoad(Program& p, Tool&)
 {
     // A run stands on the mode and the options that this would change.
     if (!p.Busy() && p.state.CurScreen != screenAction)
-        Ini_Load(p, "Defaults", p.state.AppFolder + "Tavo.ini");
+        Ini_Load(p, "Defaults", Ini_OwnFile(p));
 }
 
 void Cmd_Exit(Program& p, Tool&)
@@ -105,6 +110,16 @@ void Cmd_AddressBar(Program& p, Tool& tool)
 void Cmd_TextLabels(Program& p, Tool& tool)
 {
     Tools_SetLabels(p, Flag_Flip(p.state.tbsTextLabels, tool));
+}
+
+void Cmd_HelpContents(Program& p, Tool&)
+{
+    Help_Show(p, "Topic");
+}
+
+void Cmd_HelpIndex(Program& p, Tool&)
+{
+    Help_Show(p, "Index");
 }
 
 } // namespace tavo

@@ -39,7 +39,7 @@ constexpr Command table[] = {
     {"ID_CreateList", button, "&Rename", "Creates a New Rename List", "Switch to Rename Mode",
      "go-next", "", "File", Cmd_CreateList},
     {"ID_DefSave", button, "&Save Defaults", "Saves the Default Settings", "", "document-save", "",
-     "File", nullptr},
+     "File", Cmd_DefSave},
     {"ID_DefLoad", button, "&Load Defaults", "Loads the Saved Default Settings",
      "Load Default Settings", "document-open", "", "File", Cmd_DefLoad},
     {"ID_ExportList", button, "&Export Selection List", "Export List as Text File", "",
@@ -162,9 +162,9 @@ constexpr Command table[] = {
     {"ID_tbTextLabels", toggle, "&Text Labels", "Displays Text Labels under Toolbar Buttons",
      "Display Text Labels under Toolbar Buttons", "", "", "Toolbars", Cmd_TextLabels},
     {"ID_HelpContents", button, "&Help Topics", "Open the Help File", "", "help-contents", "",
-     "Help", nullptr},
+     "Help", Cmd_HelpContents},
     {"ID_HelpIndex", button, "&Index...", "Open the Help File in Search Mode", "", "", "", "Help",
-     nullptr},
+     Cmd_HelpIndex},
     {"ID_About", button, "&About", "Shows the About Form", "", "help-about", "", "Help", nullptr},
 
     // Thumbnails

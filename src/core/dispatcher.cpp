@@ -7,6 +7,7 @@
 #include "renamelist/preview.h"
 #include "selection/paths.h"
 #include "selection/selection_screen.h"
+#include "settings/window_layout.h"
 #include "toolkit/numbers.h"
 
 namespace tavo {
@@ -33,6 +34,16 @@ void Template_Choose(Program& p, int index)
     Tmpl_Load(p, index);
 }
 
+void Scheme_Choose(Program& p, int index)
+{
+    p.state.Scheme = p.state.ThumbSchemes[static_cast<std::size_t>(index)].Name;
+}
+
+void Layout_Choose(Program& p, int index)
+{
+    Win_Layout_Apply(p, p.state.Windows[static_cast<std::size_t>(index)].Data);
+}
+
 struct ListMenu {
     std::string_view Prefix;
     NamedList SharedState::*List;
@@ -41,7 +52,9 @@ struct ListMenu {
 
 constexpr ListMenu listMenus[] = {
     {"ID_Favorite", &SharedState::Favorites, Favorite_Open},
+    {"ID_Scheme", &SharedState::ThumbSchemes, Scheme_Choose},
     {"ID_TmpLst", &SharedState::Templates, Template_Choose},
+    {"ID_Window", &SharedState::Windows, Layout_Choose},
 };
 
 // -- Boxes on the bands.

@@ -31,4 +31,12 @@ void Win_CenterOwner(const Form& owner, Form& form)
     form.Move(left, top, form.Width(), form.Height());
 }
 
+void Help_Show(Program& p, std::string_view)
+{
+    const std::string separator(1, p.files.Rules().Separator);
+    std::string why;
+    if (!p.desktop.ShellExecuteA("open", p.state.AppFolder + "help" + separator + "index.htm", why))
+        p.Say(why, BoxIcon::Information);
+}
+
 } // namespace tavo

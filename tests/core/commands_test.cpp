@@ -427,6 +427,38 @@ TEST_F(CommandsCase, Loading_the_defaults_waits_until_the_action_panel_is_gone)
     EXPECT_EQ(p.state.RenMode, modeNameNumber);
 }
 
+TEST_F(CommandsCase, Both_help_commands_open_the_first_page)
+{
+    Program& p = Start();
+    rig.Click("ID_HelpContents");
+    Tool_Click(p, T("ID_HelpIndex"));
+    ASSERT_EQ(rig.Desktop.Executions.size(), 2u);
+    for (const auto& execution : rig.Desktop.Executions) {
+        EXPECT_EQ(execution.Verb, "open");
+        EXPECT_EQ(execution.Address, "/app/help/index.htm");
+    }
+    EXPECT_TRUE(rig.Desktop.Boxes.empty());
+}
+
+TEST_F(CommandsCase, Help_that_cannot_be_opened_says_why)
+{
+    Start();
+    rig.Desktop.ShellRefusal = "There is no such page";
+    rig.Click("ID_HelpContents");
+    ASSERT_EQ(rig.Desktop.Boxes.size(), 1u);
+    const MessageBox& box = rig.Desktop.Boxes[0].Box;
+    EXPECT_EQ(box.Text, "There is no such page");
+    EXPECT_EQ(box.Caption, "Tavo Says...");
+    EXPECT_EQ(box.Icon, BoxIcon::Information);
+}
+
+TEST_F(CommandsCase, A_scheme_of_the_menu_becomes_the_one_in_force)
+{
+    Program& p = StartWithList("[ThumbSchemes]\nA=100,90\nB=60,60\n");
+    rig.Click("ID_Scheme2");
+    EXPECT_EQ(p.state.Scheme, "B");
+}
+
 TEST_F(CommandsCase, An_inert_tool_does_nothing)
 {
     Program& p = StartWithList();
