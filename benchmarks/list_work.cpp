@@ -1,3 +1,4 @@
+#include "core/screens.h"
 #include "renamelist/act_run.h"
 #include "renamelist/rename_list.h"
 #include "stand.h"
@@ -145,6 +146,38 @@ double Move_Seconds(const Plan& plan, Stand& stand, int rows, int moved)
     return seconds;
 }
 
+// What a person waits for at each row clicked and each letter typed, with all
+// rows selected, the last one in hand.
+void Preview_Measure(Plan& plan, Stand& stand)
+{
+    const std::string click = "click on one of 1,000,000 rows, with its outcome";
+    const std::string letter = "letter typed in a template, the same rows";
+    if (!plan.Wants(click) && !plan.Wants(letter))
+        return;
+    Note(click);
+    constexpr int asked = 1000;
+    stand.FillRows(manyRows);
+    FrmMain& main = stand.P.main;
+    Mode_Set(stand.P, modeNameNumber);
+    stand.P.state.nnAutoFill = 0;
+    stand.Renames.SetAllSelected(true);
+    const auto outcome = [&] { return main.stbMain.Panel(2); };
+    const double clicked =
+        Measure(plan, {{}, [&] {
+                           for (int row = manyRows; row > manyRows - asked; --row)
+                               stand.Renames.PersonClicked(row);
+                       }});
+    TextBox& box = main.txtNameNum[nnName];
+    const double typed = Measure(plan, {[&] { box.Text = "<ON>_<#>_"; },
+                                        [&] {
+                                            for (int key = 0; key < asked; ++key)
+                                                main.PersonKey(&box, Key_FromChar(U'x'));
+                                        }});
+    Require(outcome().find("xxx") != std::string::npos, "no outcome was shown");
+    plan.Results.push_back({click, clicked / asked * usPerSecond, 0, "us", 1000});
+    plan.Results.push_back({letter, typed / asked * usPerSecond, 0, "us", 1000});
+}
+
 template <class Timed>
 void Growth_Measure(Plan& plan, const std::string& work, Timed timed)
 {
@@ -191,6 +224,7 @@ void Lists_Measure(Plan& plan)
     Sort_Measure(plan, stand, "sort 1,000,000 rows by Name, numbered", ShuffledNames(manyRows));
     Sort_Measure(plan, stand, "sort 1,000,000 rows by Name, random words", RandomNames(manyRows));
     Find_Measure(plan, stand);
+    Preview_Measure(plan, stand);
     Growth_Measure(plan, "remove 100,000 of 1,000,000 rows",
                    [&](int rows) { return Remove_Seconds(plan, stand, rows); });
     Growth_Measure(plan, "move 1,000 of 1,000,000 rows to the other end",
