@@ -46,6 +46,14 @@ struct FindData {
 using FindHandle = std::uint32_t;
 inline constexpr FindHandle invalidFind = 0;
 
+// An open file. 0 is no file.
+using FileHandle = std::int32_t;
+inline constexpr FileHandle noFile = 0;
+
+// What a file is opened for. Times can be set also where the content may not
+// be written.
+enum class OpenMode { Read, ReadWrite, Times };
+
 // Codes that the disk calls give; 0 is success. Anything the platform knows
 // beyond these is its own number above 2000.
 enum DiskCode : int {
@@ -77,6 +85,13 @@ enum class SpecialFolder { Home, Temp, Trash };
 struct RootPlace {
     std::string Caption; // what the tree shows, such as "Home"
     std::string Path;    // the folder, with its separator at the end
+};
+
+// A folder in another one, as the folder tree lists it.
+struct ListedFolder {
+    std::string Name;
+    bool Hidden = false;
+    friend bool operator==(const ListedFolder&, const ListedFolder&) = default;
 };
 
 // What two paths have in common when they are one folder on disk.
@@ -128,18 +143,98 @@ public:
     // never replaces: an existing target of another file gives diskExists,
     // in one atomic step wherever the disk has one. A change of case alone
     // works on disks that are blind to case.
+    //
+    // foMove and foCopy take a full target name and do not replace it either.
+    // A `To` that ends in the separator is a folder to put the entry into under
+    // its own name: there alone a file of that name is replaced, and where that
+    // is the very file, nothing happens. Folders go with all that is in them.
+    // What fails leaves the source whole and nothing half done at the target.
+    //
+    // foDelete deletes for good, or with fofQuietRecycle sends to the trash;
+    // where there is none that fails, and the entry stays.
     virtual int SHFileOperationA(const FileOperation& op) = 0;
 
     // The whole of a file; none when it cannot be read or is larger than
     // `limit` bytes.
     virtual std::optional<std::string> ReadWhole(const std::string& path, std::uint64_t limit) = 0;
 
+    // Archive, Read-Only, Hidden, System and Directory (16) of one entry, a
+    // link as itself; none when they cannot be read.
+    virtual std::optional<std::uint32_t> GetFileAttributesA(const std::string& path)
+    {
+        (void)path;
+        return std::nullopt;
+    }
+    // Gives the entry exactly those of the four bits that are in `attributes`;
+    // other bits are ignored. False when that failed, and then no bit that
+    // can be kept has changed.
+    virtual bool SetFileAttributesA(const std::string& path, std::uint32_t attributes)
+    {
+        (void)path, (void)attributes;
+        return false;
+    }
+    // What the system says of the last call that failed, for a user to read.
+    virtual std::string LastErrorText() const { return {}; }
+
+    // Opens a file, or for Times an entry of any kind (a link as itself).
+    // noFile when that failed.
+    virtual FileHandle OpenFile(const std::string& path, OpenMode mode)
+    {
+        (void)path, (void)mode;
+        return noFile;
+    }
+    virtual void CloseHandle(FileHandle file) { (void)file; }
+    // Sets the three times of a file opened for them; a time of 0 is left
+    // alone. False when one that was to change could not be set.
+    virtual bool SetFileTime(FileHandle file, FileTime created, FileTime accessed,
+                             FileTime written)
+    {
+        (void)file, (void)created, (void)accessed, (void)written;
+        return false;
+    }
+    // In bytes; none when it cannot be told.
+    virtual std::optional<std::uint64_t> FileLength(FileHandle file)
+    {
+        (void)file;
+        return std::nullopt;
+    }
+    // `count` bytes from `offset` on, or as many as there are.
+    virtual std::optional<std::string> ReadBytes(FileHandle file, std::uint64_t offset,
+                                                 std::size_t count)
+    {
+        (void)file, (void)offset, (void)count;
+        return std::nullopt;
+    }
+    // Writes all of the bytes from `offset` on, which is no greater than the
+    // length. When that failed, content and length are what they were.
+    virtual bool WriteBytes(FileHandle file, std::uint64_t offset, std::string_view bytes)
+    {
+        (void)file, (void)offset, (void)bytes;
+        return false;
+    }
+
+    // A local time, by the rule that the zone has for that date, to UTC. A
+    // time that occurs twice is the first one. False for what is no time; `out`
+    // then stays as it was.
+    virtual bool LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out)
+    {
+        (void)time, (void)out;
+        return false;
+    }
     // UTC to the local time of that very moment, taken apart. False when the
     // moment cannot be told; `out` then stays as it was.
     virtual bool FileTimeToLocalSystemTime(FileTime time, SystemTime& out) = 0;
 
     // The top level of the folder tree, in order.
     virtual std::vector<RootPlace> RootPlaces() = 0;
+    // The folders, and links to folders, in this folder (which ends in the
+    // separator), without `.` and `..`, in no certain order; none when it
+    // cannot be read. Those that are slow by themselves are listed without a
+    // look at them, so that one dead server holds nobody up.
+    virtual std::vector<ListedFolder> ListFolders(const std::string& folder);
+    // May a look into this folder wait for a network or for another program?
+    // Told without a look at it.
+    virtual bool IsSlowFolder(const std::string&) { return false; }
     virtual std::string SpecialFolderPath(SpecialFolder which) = 0;
 };
 

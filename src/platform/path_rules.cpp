@@ -21,6 +21,8 @@ PathRules WindowsRules()
     rules.CaseBlind = true;
     rules.WildcardsInNames = true;
     rules.RootKeepsSlash = false;
+    rules.DotHides = false;
+    rules.ReadOnlyKeepsTimes = true;
     // That disk refuses bad characters itself, so nobody has to look before.
     rules.Forbidden = "";
     rules.WordSort = true;

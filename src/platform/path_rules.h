@@ -16,6 +16,10 @@ struct PathRules {
     bool WildcardsInNames = false;
     // The root keeps its slash: Path_RemoveSlash("/") is "/".
     bool RootKeepsSlash = true;
+    // A name that begins with a dot is hidden; elsewhere an attribute hides.
+    bool DotHides = true;
+    // The times of a read-only file can only be set while it is none.
+    bool ReadOnlyKeepsTimes = false;
     // Characters that a new name may not bring in.
     std::string_view Forbidden = "\\:*?\"<>|";
     // The longest name of one entry, in bytes.

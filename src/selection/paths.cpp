@@ -68,6 +68,31 @@ bool Folder_Exists(Files& files, std::string& path)
     return (found.Attributes & attrDirectory) != 0;
 }
 
+bool IsOneFolder(Files& files, const std::string& left, const std::string& right)
+{
+    const auto identity = files.FolderIdentity(left);
+    return identity && identity == files.FolderIdentity(right);
+}
+
+std::string Path_WithoutDetours(Files& files, const std::string& path)
+{
+    const char separator = files.Rules().Separator;
+    const std::string up = std::string(1, separator) + ".." + separator;
+    std::string plain;
+    for (std::size_t at = 0; at < path.size();) {
+        const std::size_t end = std::min(path.find(separator, at), path.size() - 1) + 1;
+        plain += path.substr(at, end - at);
+        at = end;
+        const bool isUp = plain.ends_with(up) || (at == path.size() && plain.ends_with(up.substr(0, 3)));
+        if (!isUp)
+            continue;
+        const std::size_t here = plain.rfind("..") - 1;
+        const std::size_t above = here == 0 ? 0 : plain.rfind(separator, here - 1);
+        plain.erase((above == std::string::npos ? here : above) + 1);
+    }
+    return plain != path && IsOneFolder(files, plain, path) ? plain : path;
+}
+
 std::string Str_CutAtNul(std::string& text)
 {
     const auto nul = text.find('\0');

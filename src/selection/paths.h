@@ -29,6 +29,12 @@ bool File_Exists(Files& files, const std::string& path);
 // Is it a folder? `path` loses its separator at the end.
 bool Folder_Exists(Files& files, std::string& path);
 
+// Do both lead to one folder on the disk?
+bool IsOneFolder(Files& files, const std::string& left, const std::string& right);
+// The folder without "." and "..", as far as it is the same one: what a link
+// leads to decides what lies above it. Else the path as it came.
+std::string Path_WithoutDetours(Files& files, const std::string& path);
+
 // Cuts the text before its first NUL, and gives it.
 std::string Str_CutAtNul(std::string& text);
 // Padded with NULs, or cut, to exactly `length` characters.

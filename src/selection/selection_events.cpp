@@ -87,41 +87,41 @@ void Splitters_Wire(Program& p)
     main.lblSelDBY.MouseMove = [&p](const Control::Mouse& m) { SplitY_Move(p, m); };
 }
 
-bool Is_Hidden(const std::string& name)
-{
-    return !name.empty() && name.front() == '.';
-}
-
 // In the order of lists, hidden ones behind the others.
-void Folders_Sort(std::vector<std::string>& names, Collation order)
+std::vector<std::string> Folders_Sorted(std::vector<ListedFolder> folders, Collation order)
 {
     std::vector<std::tuple<bool, std::string, std::string>> keyed;
-    for (std::string& name : names) {
+    for (ListedFolder& folder : folders) {
         std::string key;
-        Sort_Key_Append(key, name, order);
-        keyed.emplace_back(Is_Hidden(name), std::move(key), std::move(name));
+        Sort_Key_Append(key, folder.Name, order);
+        keyed.emplace_back(folder.Hidden, std::move(key), std::move(folder.Name));
     }
     std::sort(keyed.begin(), keyed.end());
-    names.clear();
+    std::vector<std::string> names;
     for (auto& entry : keyed)
         names.push_back(std::move(std::get<2>(entry)));
+    return names;
 }
 
-// Calls `each` with the folders in `path` until it gives false.
-template <class Each>
-void Folders_Walk(Program& p, const std::string& path, Each each)
+// The folders that the tree shows below this one.
+std::vector<ListedFolder> Tree_Folders(Program& p, const std::string& path)
 {
-    FindData found;
-    const FindHandle handle = p.files.FindFirstFolder(path + "*.*", found);
-    if (handle == invalidFind)
-        return;
-    do {
-        Str_CutAtNul(found.Name);
-        const bool isDots = found.Name == "." || found.Name == "..";
-        if ((found.Attributes & attrDirectory) && !isDots && !each(found.Name))
-            break;
-    } while (p.files.FindNextFileA(handle, found));
-    p.files.FindClose(handle);
+    std::vector<ListedFolder> folders = p.files.ListFolders(path);
+    if (!p.main.ftvSelMain.ShowsHidden)
+        std::erase_if(folders, [](const ListedFolder& folder) { return folder.Hidden; });
+    return folders;
+}
+
+// As file managers have it.
+constexpr int keyToggleHidden = 'H';
+
+void Tree_KeyDown(FolderTree& tree, const Key& key)
+{
+    const bool toggles = key.Code == keyToggleHidden && key.Shift == shiftCtrl;
+    if (toggles)
+        tree.ShowsHidden = !tree.ShowsHidden;
+    if (toggles || key.Code == keyF5)
+        tree.Refresh();
 }
 
 void Tree_Wire(Program& p)
@@ -135,31 +135,21 @@ void Tree_Wire(Program& p)
         return places;
     };
     tree.Source.Children = [&p](const std::string& path) {
-        std::vector<std::string> names;
-        Folders_Walk(p, path, [&names](const std::string& name) {
-            names.push_back(name);
-            return true;
-        });
-        Folders_Sort(names, p.main.lsvSelMain.Order);
-        return names;
+        return Folders_Sorted(Tree_Folders(p, path), p.main.lsvSelMain.Order);
     };
     tree.Source.HasChildren = [&p](const std::string& path) {
-        bool any = false;
-        Folders_Walk(p, path, [&any](const std::string&) {
-            any = true;
-            return false;
-        });
-        return any;
+        return !Tree_Folders(p, path).empty();
     };
+    tree.Source.IsSlow = [&p](const std::string& path) { return p.files.IsSlowFolder(path); };
     // Asked with its separator, so that the root of a drive is one, too.
     tree.Source.IsFolder = [&p](const std::string& path) {
         return p.files.FolderIdentity(path).has_value();
     };
-    tree.FolderClick = [&p](const std::string& path) { Sel_Tree_Click(p, path); };
-    tree.KeyDown = [&tree](Key& key) {
-        if (key.Code == keyF5)
-            tree.Refresh();
+    tree.Source.IsSameFolder = [&p](const std::string& left, const std::string& right) {
+        return IsOneFolder(p.files, left, right);
     };
+    tree.FolderClick = [&p](const std::string& path) { Sel_Tree_Click(p, path); };
+    tree.KeyDown = [&tree](Key& key) { Tree_KeyDown(tree, key); };
 }
 
 void List_Wire(Program& p)

@@ -35,7 +35,7 @@ void Sel_Walk(Program& p)
 void Sel_Tree_Goto(Program& p, const std::string& path)
 {
     FolderTree& tree = p.main.ftvSelMain;
-    tree.SetFolder(path);
+    tree.SetFolder(Path_WithoutDetours(p.files, path));
     tree.ExpandFolder();
     tree.EnsureVisible();
 }

@@ -19,19 +19,6 @@ std::unique_ptr<FolderNode> MakeNode(std::string caption, std::string path, Fold
     return node;
 }
 
-// The spelling itself goes before one that differs in case alone.
-FolderNode* FindChild(const FolderNode& node, const std::string& caption)
-{
-    FolderNode* alike = nullptr;
-    for (const auto& child : node.Children) {
-        if (child->Caption == caption)
-            return child.get();
-        if (!alike && SameText(child->Caption, caption))
-            alike = child.get();
-    }
-    return alike;
-}
-
 // How a root stands to a path: nothing, above it but for case, or above it.
 enum class Fit { None, Alike, Exact };
 
@@ -131,16 +118,31 @@ void FolderTree::Reread(FolderNode& node)
     KeepUnlisted(node, old);
 }
 
+// Somebody went to these by their names, or is in them.
 void FolderTree::KeepUnlisted(FolderNode& node, Nodes& old)
 {
-    for (auto& child : old)
-        if (child && child->Unlisted && Source.IsFolder(child->Path))
-            node.Children.push_back(std::move(child));
+    for (auto& child : old) {
+        const bool wanted = child && (child->Unlisted || folder_.starts_with(child->Path));
+        if (!wanted || !(IsSlow(child->Path) || Source.IsFolder(child->Path)))
+            continue;
+        child->Unlisted = true;
+        node.Children.push_back(std::move(child));
+    }
+}
+
+bool FolderTree::MayOpen(FolderNode& node)
+{
+    if (node.Read || !node.Children.empty() || node.Path.empty())
+        return !node.Children.empty();
+    if (!node.HasBelow)
+        node.HasBelow = IsSlow(node.Path) || !Source.HasChildren || Source.HasChildren(node.Path);
+    return *node.HasBelow;
 }
 
 void FolderTree::RefreshBelow(Nodes& nodes)
 {
     for (const auto& node : nodes) {
+        node->HasBelow.reset();
         if (node->Expanded) {
             Reread(*node);
             RefreshBelow(node->Children);
@@ -230,6 +232,22 @@ FolderNode* FolderTree::Descend(FolderNode& from, const std::string& path)
         node = child;
     }
     return node;
+}
+
+// The spelling itself goes before one that differs in case alone, which may be
+// a folder of its own.
+FolderNode* FolderTree::FindChild(const FolderNode& node, const std::string& name) const
+{
+    const std::string path = node.Path + name + Source.Separator;
+    FolderNode* alike = nullptr;
+    for (const auto& child : node.Children) {
+        if (child->Caption == name)
+            return child.get();
+        if (!alike && SameText(child->Caption, name))
+            alike = child.get();
+    }
+    const bool isSame = alike && Source.IsSameFolder && Source.IsSameFolder(alike->Path, path);
+    return isSame ? alike : nullptr;
 }
 
 // A folder may be open to those who know its name while the one above it

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,12 +17,17 @@ struct FolderSource {
     };
     // The nodes at the top. A place with an empty path is none of the disk's.
     std::function<std::vector<Place>()> Roots;
-    // The names of the folders in this folder, in order.
+    // The names of the folders in this folder that the tree is to show, in order.
     std::function<std::vector<std::string>(const std::string& path)> Children;
     // Has it any?
     std::function<bool(const std::string& path)> HasChildren;
+    // May a look at it keep a person waiting? Such a folder is looked at only
+    // when somebody opens it or goes to it.
+    std::function<bool(const std::string& path)> IsSlow;
     // Is it a folder that can be gone to?
     std::function<bool(const std::string& path)> IsFolder;
+    // Are they one folder on the disk, whatever their spelling?
+    std::function<bool(const std::string& left, const std::string& right)> IsSameFolder;
     char Separator = '/';
 };
 
@@ -32,6 +38,8 @@ struct FolderNode {
     bool Expanded = false, Read = false;
     // It is there, but the folder above does not list it.
     bool Unlisted = false;
+    // What a look told, before the children are read.
+    std::optional<bool> HasBelow;
     std::vector<std::unique_ptr<FolderNode>> Children;
 };
 
@@ -42,6 +50,8 @@ public:
     using Control::Control;
 
     FolderSource Source;
+    // Does the source list hidden folders too? To be followed by a Refresh.
+    bool ShowsHidden = false;
 
     // The folder in hand, with its separator at the end; empty before the first.
     const std::string& Folder() const { return folder_; }
@@ -54,7 +64,8 @@ public:
     // Asks the host to bring its node into view.
     void EnsureVisible();
     // Reads all expanded nodes anew, the others when they are next expanded. A
-    // folder in hand that is gone stays so, but has no node.
+    // folder in hand that is gone stays so, but has no node; one that is only
+    // listed no more keeps its own.
     void Refresh();
 
     const std::vector<std::unique_ptr<FolderNode>>& Roots();
@@ -63,6 +74,9 @@ public:
     void Expand(FolderNode& node, bool on);
     // Reads a node's children if they have not been read.
     void Fill(FolderNode& node);
+    // Is there something below it to open, as far as can be told without
+    // waiting? A slow folder may turn out to be empty.
+    bool MayOpen(FolderNode& node);
     // The nodes in sight, from the top.
     std::vector<FolderNode*> NodesInSight();
 
@@ -85,10 +99,12 @@ private:
     FolderNode* Reach(const std::string& path);
     FolderNode* Descend(FolderNode& from, const std::string& path);
     std::vector<FolderNode*> RootsAbove(const std::string& path);
+    FolderNode* FindChild(const FolderNode& node, const std::string& name) const;
     FolderNode* AddUnlisted(FolderNode& parent, const std::string& name);
     void ReadRoots();
     void Reread(FolderNode& node);
     void KeepUnlisted(FolderNode& node, Nodes& old);
+    bool IsSlow(const std::string& path) const { return Source.IsSlow && Source.IsSlow(path); }
     void RefreshBelow(Nodes& nodes);
     FolderNode* FindRead(const Nodes& nodes, const std::string& path) const;
     FolderNode* KeyTarget(const Key& key);

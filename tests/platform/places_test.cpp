@@ -47,7 +47,7 @@ constexpr MountRow mountRows[] = {
 TEST(Places, Volumes_are_told_by_where_and_what_they_are)
 {
     for (const MountRow& row : mountRows) {
-        const std::vector<RootPlace> volumes = MountedVolumes(std::string(row.Line) + '\n');
+        const std::vector<RootPlace> volumes = MountedVolumes(ParseMounts(row.Line));
         if (*row.Path == '\0') {
             EXPECT_TRUE(volumes.empty()) << row.What;
             continue;
@@ -60,13 +60,13 @@ TEST(Places, Volumes_are_told_by_where_and_what_they_are)
 
 TEST(Places, Volumes_come_by_path_and_each_path_once)
 {
-    const auto volumes = MountedVolumes("1 2 8:1 / /mnt/b rw - ext4 /dev/a rw\n"
-                                        "3 2 8:2 / /mnt/a rw - ext4 /dev/b rw\n"
-                                        "4 1 8:3 / /mnt/b rw - ext4 /dev/c rw");
+    const auto volumes = MountedVolumes(ParseMounts("1 2 8:1 / /mnt/b rw - ext4 /dev/a rw\n"
+                                                    "3 2 8:2 / /mnt/a rw - ext4 /dev/b rw\n"
+                                                    "4 1 8:3 / /mnt/b rw - ext4 /dev/c rw"));
     ASSERT_EQ(volumes.size(), 2u);
     EXPECT_EQ(volumes[0].Path, "/mnt/a/");
     EXPECT_EQ(volumes[1].Path, "/mnt/b/");
-    EXPECT_TRUE(MountedVolumes("").empty());
+    EXPECT_TRUE(MountedVolumes({}).empty());
 }
 
 // Sets a variable of the environment for one test; null takes it away.

@@ -51,6 +51,24 @@ protected:
         ADD_FAILURE() << "No such node: " << caption;
         return *tree.Current();
     }
+    Texts BelowInHand()
+    {
+        Texts captions;
+        for (const auto& node : tree.Current()->Children)
+            captions.push_back(node->Caption);
+        return captions;
+    }
+    void AddFoldersForTheTree()
+    {
+        for (const char* folder : {"d/B", "d/a", "d/.hidden", "d/x y", "d/B/.below"})
+            ground.AddFolder(folder);
+        ground.AddLink("d/link", "e");
+        ground.AddLink("d/filelink", "d/a.txt");
+        if (GetParam() != Ground::Windows)
+            return;
+        for (const char* folder : {"d/.hidden", "d/B/.below"})
+            ground.Memory()->SetAttributes(ground.Full(folder), attrDirectory | attrHidden);
+    }
     // Files come from a file manager: no separator at the end.
     void Drop(const Texts& paths)
     {
@@ -127,20 +145,64 @@ TEST_P(SelectionEvents, A_click_while_a_walk_goes_on_is_ignored)
     EXPECT_EQ(Names(), (Texts{"a.txt", "b.jpg", "c.txt"}));
 }
 
-TEST_P(SelectionEvents, The_tree_shows_folders_alone_and_hidden_ones_last)
+TEST_P(SelectionEvents, The_tree_shows_folders_that_are_not_hidden)
 {
-    for (const char* folder : {"d/B", "d/a", "d/.hidden", "d/x y"})
-        ground.AddFolder(folder);
-    ground.AddLink("d/link", "e");
-    ground.AddLink("d/filelink", "d/a.txt");
+    AddFoldersForTheTree();
     tree.Refresh();
-    Texts captions;
-    for (const auto& node : tree.Current()->Children)
-        captions.push_back(node->Caption);
-    EXPECT_EQ(captions, (Texts{"a", "B", "link", "sub", "x y", ".hidden"}));
+    EXPECT_EQ(BelowInHand(), (Texts{"a", "B", "link", "sub", "x y"}));
     EXPECT_TRUE(tree.Source.HasChildren(ground.Full("d/")));
     EXPECT_FALSE(tree.Source.HasChildren(ground.Full("d/sub/")));
+    EXPECT_FALSE(tree.Source.HasChildren(ground.Full("d/B/"))); // it has a hidden one alone
     EXPECT_FALSE(tree.Source.HasChildren(ground.Full("gone/")));
+}
+
+TEST_P(SelectionEvents, Ctrl_H_in_the_tree_shows_hidden_folders_last_and_takes_them_away)
+{
+    AddFoldersForTheTree();
+    tree.SetFocus();
+    const Key toggle{'H', shiftCtrl};
+    EXPECT_EQ(Walks([&] { f.PersonKey(&tree, toggle); }), 0);
+    EXPECT_EQ(BelowInHand(), (Texts{"a", "B", "link", "sub", "x y", ".hidden"}));
+    EXPECT_TRUE(tree.Source.HasChildren(ground.Full("d/B/")));
+    f.PersonKey(&tree, toggle);
+    EXPECT_EQ(BelowInHand(), (Texts{"a", "B", "link", "sub", "x y"}));
+}
+
+TEST_P(SelectionEvents, A_hidden_folder_that_is_gone_to_has_a_node)
+{
+    AddFoldersForTheTree();
+    Sel_Open(p, ground.Full("d/.hidden/"));
+    ASSERT_NE(tree.Current(), nullptr);
+    EXPECT_EQ(tree.Current()->Path, ground.Full("d/.hidden/"));
+    EXPECT_EQ(s.StartPath, ground.Full("d/.hidden/"));
+    tree.SetFocus();
+    for (const Key key : {Key{keyF5}, Key{'H', shiftCtrl}, Key{'H', shiftCtrl}}) {
+        f.PersonKey(&tree, key);
+        ASSERT_NE(tree.Current(), nullptr);
+        EXPECT_EQ(tree.Current()->Path, ground.Full("d/.hidden/"));
+    }
+}
+
+TEST_P(SelectionEvents, A_slow_folder_is_read_only_when_somebody_opens_it)
+{
+    if (!ground.Memory())
+        return;
+    ground.AddFolder("d/sub/deep");
+    const std::string slow = ground.Full("d/sub/");
+    ground.Memory()->SetSlow(slow);
+    Texts looks;
+    ground.Memory()->BeforeEach([&](const MemoryDisk::Call& call) {
+        if (call.Path.starts_with(slow))
+            looks.push_back(call.Name);
+    });
+    tree.Refresh();
+    for (FolderNode* node : tree.NodesInSight())
+        tree.MayOpen(*node);
+    EXPECT_TRUE(tree.MayOpen(Below("sub")));
+    EXPECT_EQ(looks, Texts());
+    tree.Expand(Below("sub"), true);
+    EXPECT_NE(looks, Texts());
+    EXPECT_EQ(Below("sub").Children.size(), 1u);
 }
 
 TEST_P(SelectionEvents, F5_in_the_tree_reads_it_anew)

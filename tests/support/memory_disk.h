@@ -99,6 +99,8 @@ public:
     // What local time is ahead of UTC, in minutes, at all times of the year.
     void SetZone(int minutes) { zoneMinutes_ = minutes; }
     void SetSpecialFolder(SpecialFolder which, const std::string& path);
+    // From here on (a folder, with its separator) all is slow.
+    void SetSlow(const std::string& path) { slow_ = path; }
 
     // -- The port. SHFileOperationA renames; for the other operations it gives
     // `notOnThisDisk`.
@@ -116,6 +118,10 @@ public:
     std::optional<std::string> ReadWhole(const std::string& path, std::uint64_t limit) override;
     bool FileTimeToLocalSystemTime(FileTime time, SystemTime& out) override;
     std::vector<RootPlace> RootPlaces() override;
+    bool IsSlowFolder(const std::string& path) override
+    {
+        return !slow_.empty() && path.starts_with(slow_);
+    }
     std::string SpecialFolderPath(SpecialFolder which) override;
 
 private:
@@ -166,6 +172,7 @@ private:
     int lastError_ = diskOk;
     int zoneMinutes_ = 0;
     std::map<SpecialFolder, std::string> specialFolders_;
+    std::string slow_;
     std::map<std::string, int> calls_;
     std::vector<Hook> hooks_;
     std::vector<Fault> faults_;

@@ -294,15 +294,83 @@ TEST_F(FolderTrees, A_folder_in_hand_that_is_gone_stays_in_hand_without_a_node)
 {
     tree.SetFolder("/home/ann/Pics/");
     disk.Folders["/home/ann/"] = {"docs"};
+    disk.Folders.erase("/home/ann/Pics/");
     tree.Refresh();
     EXPECT_EQ(tree.Folder(), "/home/ann/Pics/");
     EXPECT_EQ(tree.Current(), nullptr);
     tree.ExpandFolder();
     tree.EnsureVisible();
     disk.Folders["/home/ann/"] = {"docs", "Pics"};
+    disk.Folders["/home/ann/Pics/"] = {};
     tree.Refresh();
     ASSERT_NE(tree.Current(), nullptr);
     EXPECT_EQ(tree.Current()->Path, "/home/ann/Pics/");
+}
+
+TEST_F(FolderTrees, A_folder_in_hand_that_is_listed_no_more_keeps_its_node)
+{
+    tree.SetFolder("/home/ann/docs/old/");
+    disk.Secret = {"docs"};
+    tree.Refresh();
+    EXPECT_EQ(Sight(), "Home Pics docs old Places /");
+    ASSERT_NE(tree.Current(), nullptr);
+    EXPECT_EQ(tree.Current()->Path, "/home/ann/docs/old/");
+    disk.Secret.clear();
+    tree.Refresh();
+    EXPECT_EQ(Sight(), "Home docs old Pics Places /");
+}
+
+TEST_F(FolderTrees, A_node_may_be_opened_when_something_lies_below_it)
+{
+    EXPECT_TRUE(tree.MayOpen(*tree.Roots()[0]));
+    EXPECT_FALSE(tree.MayOpen(*tree.Roots()[1])); // none of the disk's
+    tree.SetFolder("/etc/");
+    EXPECT_FALSE(tree.MayOpen(*tree.Current()));
+    disk.Folders["/etc/"] = {"new"};
+    EXPECT_FALSE(tree.MayOpen(*tree.Current())); // looked at once
+    tree.Refresh();
+    EXPECT_TRUE(tree.MayOpen(*tree.Current()));
+}
+
+TEST_F(FolderTrees, A_slow_folder_is_looked_at_only_when_somebody_opens_it)
+{
+    places.push_back({"Share", "/mnt/usb/"});
+    std::vector<std::string> looks;
+    const auto slow = [](const std::string& path) { return path.starts_with("/mnt/usb/"); };
+    tree.Source.IsSlow = slow;
+    const auto hasChildren = tree.Source.HasChildren;
+    tree.Source.HasChildren = [&](const std::string& path) {
+        looks.push_back(path);
+        return hasChildren(path);
+    };
+    const auto isFolder = tree.Source.IsFolder;
+    tree.Source.IsFolder = [&](const std::string& path) {
+        looks.push_back(path);
+        return isFolder(path);
+    };
+    disk.Folders["/mnt/usb/"] = {};
+    tree.SetFolder("/mnt/");
+    tree.ExpandFolder();
+    for (FolderNode* node : tree.NodesInSight())
+        EXPECT_EQ(tree.MayOpen(*node), !node->Path.empty() && node->Path != "/etc/") << node->Path;
+    tree.Refresh();
+    for (const auto* seen : {&looks, &disk.Listed})
+        EXPECT_TRUE(std::none_of(seen->begin(), seen->end(), slow));
+    FolderNode& share = *tree.Roots()[3];
+    tree.Expand(share, true);
+    EXPECT_EQ(disk.Listed.back(), "/mnt/usb/");
+    EXPECT_FALSE(tree.MayOpen(share));
+}
+
+TEST_F(FolderTrees, A_slow_folder_that_was_gone_to_by_name_stays_without_a_look)
+{
+    disk.Secret = {"usb"};
+    tree.Source.IsSlow = [](const std::string& path) { return path.starts_with("/mnt/usb/"); };
+    tree.SetFolder("/mnt/usb/");
+    tree.SetFolder("/etc/");
+    disk.Folders.erase("/mnt/usb/"); // a look would find it gone
+    tree.Refresh();
+    EXPECT_EQ(Sight(), "Home Places / etc home mnt usb");
 }
 
 TEST_F(FolderTrees, A_closed_node_is_read_anew_after_a_refresh_when_it_is_opened)

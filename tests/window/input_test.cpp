@@ -286,6 +286,32 @@ TEST(WindowInput, A_file_dropped_on_the_selection_goes_to_its_folder)
     EXPECT_EQ(p.Selected(p.Main().lsvSelMain), std::vector<int>{2});
 }
 
+TEST(WindowInput, A_folder_dropped_on_the_selection_is_gone_into)
+{
+    Person p("window_drop_folder", threeFiles);
+    p.Folder().Write("other/m.txt");
+    EXPECT_TRUE(Drop(*p.Table("lsvSelMain").viewport(), {p.Folder().Path("other")}));
+    p.Settle();
+    EXPECT_EQ(p.Names(p.Main().lsvSelMain), (Strings{"m.txt"}));
+    EXPECT_EQ(p.Selected(p.Main().lsvSelMain), std::vector<int>());
+    EXPECT_EQ(p.Of<QLineEdit>("ID_sAddress").text().toStdString(), p.Folder().Path("other/"));
+}
+
+TEST(WindowInput, Ctrl_with_a_digit_puts_in_a_place_holder)
+{
+    Person p("window_ctrl_digits", threeFiles);
+    p.RenameAllFiles();
+    for (const char* box : {"txtNameNum(0)", "txtNameNum(1)"}) {
+        auto& line = p.Of<QLineEdit>(box);
+        p.Click(line);
+        line.selectAll();
+        p.Key(Qt::Key_Delete);
+        for (const Qt::Key digit : {Qt::Key_1, Qt::Key_2, Qt::Key_3})
+            p.Key(digit, Qt::ControlModifier);
+        EXPECT_EQ(line.text(), "<#><ON><OE>") << box;
+    }
+}
+
 TEST(WindowInput, A_drag_of_anything_but_files_is_refused)
 {
     Person p("window_drop_text", threeFiles);

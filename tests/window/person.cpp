@@ -7,10 +7,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCursor>
 #include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTableView>
 #include <QTimer>
 
@@ -18,6 +20,8 @@ namespace tavo {
 
 Person::Person(std::string_view test, const std::vector<std::string>& files) : folder_(test)
 {
+    // Where the test before left the pointer, a tool would tell what it does.
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
     folder_.MakeFolder("app");
     folder_.MakeFolder("files");
     for (const std::string& name : files)

@@ -47,15 +47,6 @@ bool Arguments_Read(const std::vector<std::string>& words, Arguments& arguments)
     return true;
 }
 
-std::string Folder_Absolute(const std::string& folder)
-{
-    std::error_code error;
-    std::string path = std::filesystem::absolute(folder, error).string();
-    if (path.empty() || path.back() != '/')
-        path += '/';
-    return path;
-}
-
 tavo::StartInfo Start_Info(const Arguments& arguments)
 {
     tavo::StartInfo info;
@@ -64,7 +55,7 @@ tavo::StartInfo Start_Info(const Arguments& arguments)
         info.AppFolder = tavo::AppFolder_Find(program);
         tavo::AppFolder_Prepare(info.AppFolder, program);
     } else {
-        info.AppFolder = Folder_Absolute(arguments.AppFolder);
+        info.AppFolder = tavo::Folder_Absolute(arguments.AppFolder);
     }
     info.CommandText = tavo::Command_Text(arguments.Paths);
     return info;

@@ -18,6 +18,8 @@ namespace tavo {
 namespace {
 
 constexpr int filterChars = 13, modeChars = 14, distanceChars = 4, boxGap = 2;
+// What styles leave free around the picture of a button over its text.
+constexpr int pictureRim = 4;
 // The texts under the pictures are smaller than those of the window.
 constexpr double textShare = 0.86;
 constexpr std::string_view bandOfOneRow = "Address";
@@ -144,6 +146,8 @@ void BarView::AddBox(Tool& tool)
         widget->setMinimumContentsLength(Chars_Of(tool));
         widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         binder_.Bind(*widget, *combo);
+        if (widget->lineEdit()) // it is what has the focus
+            widget->lineEdit()->setAccessibleName(Plain_Caption(tool.Caption));
         box = widget;
     } else {
         auto* widget = new QLineEdit(holder);
@@ -155,12 +159,16 @@ void BarView::AddBox(Tool& tool)
     holder->setSizePolicy(Chars_Of(tool) > 0 ? QSizePolicy::Fixed : QSizePolicy::Expanding,
                           QSizePolicy::Preferred);
     const QString caption = Plain_Caption(tool.Caption);
-    box->setAccessibleName(caption);
-    box->setToolTip(ToQt(tool.ToolTipText));
-    box->setStatusTip(ToQt(tool.Description));
     auto* label = new QLabel(caption, holder);
+    box->setAccessibleName(caption);
+    for (QWidget* part : {box, static_cast<QWidget*>(label)}) {
+        part->setToolTip(ToQt(tool.ToolTipText));
+        part->setStatusTip(ToQt(tool.Description));
+    }
     label->setAlignment(Qt::AlignCenter);
     layout->addWidget(box, 0, Chars_Of(tool) > 0 ? Qt::AlignHCenter : Qt::Alignment());
+    if (!oneRow_) // the caption in line with those of the buttons
+        layout->addSpacing(iconSize().height() + pictureRim - box->sizeHint().height());
     layout->addWidget(label);
     layout->addStretch();
     const bool hasLabel = !oneRow_;

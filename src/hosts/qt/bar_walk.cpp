@@ -14,6 +14,10 @@ namespace tavo {
 
 namespace {
 
+// The program has a focus of its own, which goes to boxes and not to buttons:
+// this reason tells it to go along.
+constexpr Qt::FocusReason programGoesAlong = Qt::ShortcutFocusReason;
+
 BarView* Bar_Of(QWidget* widget)
 {
     for (; widget; widget = widget->parentWidget())
@@ -65,8 +69,8 @@ bool BarWalk::Key(QWidget& receiver, QKeyEvent& event)
 // A flat button stands out while the keys are at it.
 void BarWalk::StopAt(QWidget& stop)
 {
-    stop.setFocus(Qt::TabFocusReason);
     auto* button = qobject_cast<QToolButton*>(&stop);
+    stop.setFocus(button ? Qt::TabFocusReason : programGoesAlong);
     if (!button || !button->autoRaise())
         return;
     button->setAutoRaise(false);
@@ -107,8 +111,10 @@ void BarWalk::NextRegion(bool backwards)
 
 void BarWalk::GoBack()
 {
+    const bool fromBox =
+        Bar_Of(window_.focusWidget()) && !qobject_cast<QToolButton*>(window_.focusWidget());
     if (before_)
-        before_->setFocus(Qt::OtherFocusReason);
+        before_->setFocus(fromBox ? programGoesAlong : Qt::OtherFocusReason);
 }
 
 bool BarWalk::KeyInBar(BarView& bar, QWidget& receiver, QKeyEvent& event)

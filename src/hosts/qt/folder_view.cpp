@@ -76,12 +76,7 @@ int FolderModel::columnCount(const QModelIndex&) const
 
 bool FolderModel::hasChildren(const QModelIndex& parent) const
 {
-    if (!parent.isValid())
-        return true;
-    const FolderNode& node = *NodeOf(parent);
-    if (node.Read || !node.Children.empty() || node.Path.empty())
-        return !node.Children.empty();
-    return !tree_.Source.HasChildren || tree_.Source.HasChildren(node.Path);
+    return !parent.isValid() || tree_.MayOpen(*NodeOf(parent));
 }
 
 bool FolderModel::canFetchMore(const QModelIndex& parent) const

@@ -69,6 +69,8 @@ void PicturePane::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // The frame of the panel stays in sight around a picture that fills it.
+    painter.setClipRect(parentWidget()->contentsRect().translated(-pos()));
     if (picture_.Picture.Get().Shown == PictureRef::Kind::Icon)
         Icon_OfClass({&picture_.Picture.Get().Icon, 1}).paint(&painter, rect());
     else if (!shown_.isNull())

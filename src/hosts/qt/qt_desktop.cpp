@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QDialog>
 #include <QDrag>
 #include <QMessageBox>
@@ -235,6 +236,17 @@ std::string QtDesktop::ClipboardText()
 void QtDesktop::SetClipboardText(const std::string& text)
 {
     QGuiApplication::clipboard()->setText(ToQt(text));
+}
+
+std::optional<std::string> QtDesktop::SHBrowseForFolderA(const std::string& title)
+{
+    const QScopedValueRollback<int> inside(inside_, inside_ + 1);
+    if (BeforeShowing)
+        BeforeShowing();
+    const QString chosen = QFileDialog::getExistingDirectory(FrontWindow(), ToQt(title));
+    if (chosen.isEmpty())
+        return std::nullopt;
+    return FromQt(chosen);
 }
 
 bool QtDesktop::ShellExecuteA(const std::string&, const std::string& address, std::string& why)

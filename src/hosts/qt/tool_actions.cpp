@@ -37,6 +37,16 @@ QString Shortcut_Text(const Key& key)
     return text + QChar(key.Code);
 }
 
+// A letter goes to the entries that can be chosen: Qt would also stop at one
+// that is disabled.
+QString Entry_Text(const Tool& tool)
+{
+    QString text = ToQt(tool.Caption);
+    if (!tool.Enabled)
+        text = Plain_Caption(tool.Caption).replace('&', "&&");
+    return tool.Shortcut.Code == keyNone ? text : text + "\t" + Shortcut_Text(tool.Shortcut);
+}
+
 // A long caption takes two lines on a button; a short one leaves the second
 // empty, so that all pictures of a bar stand at one height.
 QString InTwoLines(QString text)
@@ -99,10 +109,9 @@ QAction* ToolActions::Make(Tool& tool)
 
 void ToolActions::Show(QAction& action, const Tool& tool, const PropSet& changed)
 {
-    if (changed.Has({Prop::Caption})) {
-        const bool hasKey = tool.Shortcut.Code != keyNone;
-        action.setText(ToQt(tool.Caption) + (hasKey ? "\t" + Shortcut_Text(tool.Shortcut) : ""));
+    if (changed.Has({Prop::Caption, Prop::Enabled})) {
         const QString plain = Plain_Caption(tool.Caption);
+        action.setText(Entry_Text(tool));
         QString text = oneLine_.contains(&tool) ? plain : InTwoLines(plain);
         action.setIconText(text.replace('&', "&&"));
     }
@@ -136,12 +145,15 @@ QMenu* ToolActions::MenuOf(Tool& tool)
 
 void ToolActions::Fill(QWidget& menu, const Band& band)
 {
-    fillings_[&band] = new Binding(queue_, menu, never_, [this, &menu, &band](const PropSet&) {
-        for (QAction* action : menu.actions())
-            menu.removeAction(action);
-        for (Tool* tool : band.Tools())
-            menu.addAction(Of(*tool));
-    });
+    fillings_[&band] =
+        new Binding(queue_, menu, never_, [this, &menu, &band](const PropSet& changed) {
+            if (!changed.Has({Prop::Items}))
+                return; // a menu bar that gets the focus must keep what it shows
+            for (QAction* action : menu.actions())
+                menu.removeAction(action);
+            for (Tool* tool : band.Tools())
+                menu.addAction(Of(*tool));
+        });
 }
 
 // A menu that is filled tool by tool is built anew once, with the next frame;

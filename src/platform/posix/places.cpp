@@ -27,58 +27,6 @@ constexpr SystemMount systemMounts[] = {
 // These wait for somebody to look in before they mount anything.
 constexpr std::string_view waitingType = "autofs";
 
-struct Mount {
-    std::string_view Root, Type, Source;
-    std::string Point;
-};
-
-std::string_view TakeField(std::string_view& line)
-{
-    const std::size_t blank = line.find(' ');
-    const std::string_view field = line.substr(0, blank);
-    line.remove_prefix(blank == line.npos ? line.size() : blank + 1);
-    return field;
-}
-
-bool IsOctal(char c)
-{
-    return c >= '0' && c <= '7';
-}
-
-// Blanks, tabs, line ends and backslashes stand as `\` and three octal digits.
-std::string Unescape(std::string_view field)
-{
-    std::string text;
-    for (std::size_t pos = 0; pos < field.size(); ++pos) {
-        const std::string_view digits = field.substr(pos + 1, 3);
-        const bool escaped = field[pos] == '\\' && digits.size() == 3
-                             && std::all_of(digits.begin(), digits.end(), IsOctal);
-        if (!escaped) {
-            text.push_back(field[pos]);
-            continue;
-        }
-        const int byte = (digits[0] - '0') * 64 + (digits[1] - '0') * 8 + (digits[2] - '0');
-        text.push_back(static_cast<char>(byte));
-        pos += digits.size();
-    }
-    return text;
-}
-
-// id parent device root point options [tags...] - type source options
-Mount ParseMount(std::string_view line)
-{
-    Mount mount;
-    for (int skipped = 0; skipped < 3; ++skipped)
-        TakeField(line);
-    mount.Root = TakeField(line);
-    mount.Point = Unescape(TakeField(line));
-    while (!line.empty() && TakeField(line) != "-") {
-    }
-    mount.Type = TakeField(line);
-    mount.Source = TakeField(line);
-    return mount;
-}
-
 bool IsSystem(const std::string& point)
 {
     return std::any_of(std::begin(systemMounts), std::end(systemMounts), [&](const auto& row) {
@@ -89,7 +37,7 @@ bool IsSystem(const std::string& point)
 
 bool IsVolume(const Mount& mount)
 {
-    if (!mount.Point.starts_with('/') || mount.Type == waitingType)
+    if (mount.Type == waitingType)
         return false;
     const std::string folder = mount.Point + '/';
     const bool inVolumeFolder =
@@ -115,13 +63,10 @@ std::string FolderFromEnvironment(const char* name)
 
 } // namespace
 
-std::vector<RootPlace> MountedVolumes(std::string_view mountInfo)
+std::vector<RootPlace> MountedVolumes(const std::vector<Mount>& mounts)
 {
     std::vector<RootPlace> volumes;
-    while (!mountInfo.empty()) {
-        const std::size_t end = std::min(mountInfo.find('\n'), mountInfo.size());
-        const Mount mount = ParseMount(mountInfo.substr(0, end));
-        mountInfo.remove_prefix(std::min(end + 1, mountInfo.size()));
+    for (const Mount& mount : mounts) {
         if (!IsVolume(mount))
             continue;
         const std::string caption = mount.Point.substr(mount.Point.rfind('/') + 1);

@@ -1,19 +1,19 @@
 #pragma once
 
 #include "platform/files.h"
+#include "platform/posix/mounts.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace tavo {
 
-// The volumes to show beside Home and the root, in the order of their paths,
-// from the text of /proc/self/mountinfo: everything mounted below /media,
+// The volumes to show beside Home and the root, in the order of their paths:
+// of these mounts everything below /media,
 // /run/media and /mnt, and other disks, but not the ones that make up the
 // system (such as /boot) nor folders and files mounted a second time. The
 // caption is the last part of the path.
-std::vector<RootPlace> MountedVolumes(std::string_view mountInfo);
+std::vector<RootPlace> MountedVolumes(const std::vector<Mount>& mounts);
 
 // The user's own folder, from HOME or the list of users; "/" without one.
 // These folders end in a slash, and they need not exist.

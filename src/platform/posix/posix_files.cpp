@@ -184,12 +184,48 @@ bool PosixFiles::FileTimeToLocalSystemTime(FileTime time, SystemTime& out)
 std::vector<RootPlace> PosixFiles::RootPlaces()
 {
     std::vector<RootPlace> places = {{"Home", HomeFolder()}, {"File System", "/"}};
-    std::string mounts;
-    if (ReadRegularFile("/proc/self/mountinfo", 16 << 20, mounts) != 0)
-        return places;
-    for (RootPlace& volume : MountedVolumes(mounts))
+    for (RootPlace& volume : MountedVolumes(mounts_.Now()))
         places.push_back(std::move(volume));
     return places;
+}
+
+bool PosixFiles::IsSlowFolder(const std::string& path)
+{
+    return !mounts_.SlowMountOn(path).empty();
+}
+
+// Whoever reads a slow folder waits for it, but not for another one.
+bool PosixFiles::LeadsToFolder(const std::string& path, int folder, const char* name,
+                               const std::string& slowAbove)
+{
+    const std::string slow = mounts_.SlowMountOn(path);
+    if (!slow.empty() && slow != slowAbove)
+        return true;
+    struct statx data;
+    return statx(folder, name, AT_NO_AUTOMOUNT, STATX_TYPE, &data) == 0 && S_ISDIR(data.stx_mode);
+}
+
+std::vector<ListedFolder> PosixFiles::ListFolders(const std::string& folder)
+{
+    std::vector<ListedFolder> folders;
+    if (!Done(CheckPath(folder)))
+        return folders;
+    constexpr int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+    const Descriptor open(WithoutInterrupts([&] { return ::open(folder.c_str(), flags); }));
+    if (!Done(open.IsOpen() ? diskOk : DiskCodeOf(errno)))
+        return folders;
+    FolderListing names;
+    const Pattern all("*", rules_);
+    if (!Done(DiskCodeOf(names.Read(open.Number(), all, ListScope::Folders, false))))
+        return folders;
+    const std::string slowAbove = mounts_.SlowMountOn(folder);
+    for (std::size_t index = 0; index < names.Count(); ++index) {
+        const std::string name(names.Name(index));
+        if (names.Kind(index) == ListedKind::Folder
+            || LeadsToFolder(folder + name, open.Number(), name.c_str(), slowAbove))
+            folders.push_back({name, rules_.DotHides && name.starts_with('.')});
+    }
+    return folders;
 }
 
 std::string PosixFiles::SpecialFolderPath(SpecialFolder which)

@@ -2,6 +2,7 @@
 
 #include "platform/files.h"
 #include "platform/posix/local_clock.h"
+#include "platform/posix/mounts.h"
 #include "platform/posix/rename.h"
 #include "platform/posix/search.h"
 
@@ -47,6 +48,8 @@ public:
     bool FileTimeToLocalSystemTime(FileTime time, SystemTime& out) override;
 
     std::vector<RootPlace> RootPlaces() override;
+    std::vector<ListedFolder> ListFolders(const std::string& folder) override;
+    bool IsSlowFolder(const std::string& path) override;
     // With its slash at the end; the Trash need not exist yet.
     std::string SpecialFolderPath(SpecialFolder which) override;
 
@@ -63,7 +66,11 @@ private:
     FindHandle Keep(std::unique_ptr<Search> search);
     void LimitHeldFolders();
 
+    bool LeadsToFolder(const std::string& path, int folder, const char* name,
+                       const std::string& slowAbove);
+
     PathRules rules_ = PosixRules();
+    MountTable mounts_;
     LocalClock clock_;
     std::unique_ptr<RenameDisk> disk_;
     Renamer renamer_;

@@ -130,13 +130,21 @@ std::string WithoutDetours(const std::string& path)
 {
     std::error_code failed;
     if (HoldsPart(path, "..")) {
-        const fs::path real = fs::canonical(path, failed);
+        // What does not exist still has a folder that may.
+        const fs::path real = fs::weakly_canonical(path, failed);
         return failed ? path : real.string();
     }
     return HoldsPart(path, ".") ? fs::path(path).lexically_normal().string() : path;
 }
 
 } // namespace
+
+std::string Folder_Absolute(const std::string& folder)
+{
+    std::error_code failed;
+    const std::string path = WithoutDetours(fs::absolute(folder, failed).string());
+    return path.ends_with('/') ? path : path + '/';
+}
 
 std::string Executable_Path()
 {

@@ -23,6 +23,9 @@ std::string AppFolder_Find(const std::string& executablePath);
 // that leads nowhere. What fails is left out: the program runs without.
 void AppFolder_Prepare(const std::string& appFolder, const std::string& executablePath);
 
+// The folder as a full path, with its slash.
+std::string Folder_Absolute(const std::string& folder);
+
 // The text that the program takes apart, from the arguments behind the
 // program's name. The last one counts, a path or a `file://` address: made
 // absolute, and a folder that is there with its slash. Empty without any.
