@@ -64,9 +64,8 @@ void Cmd_Exit(Program& p, Tool&)
 
 void Cmd_EditUndo(Program& p, Tool&)
 {
-    Control* active = p.main.ActiveControl();
-    auto* box = dynamic_cast<TextBox*>(active);
-    if (box && !dynamic_cast<ComboBox*>(active))
+    TextBox* box = Edit_Target(p);
+    if (box && !dynamic_cast<ComboBox*>(box))
         box->UndoEdit();
 }
 
@@ -105,6 +104,7 @@ void Cmd_AddressBar(Program& p, Tool& tool)
     const bool on = Flag_Flip(p.state.tbsAddress, tool);
     if (Band* band = p.main.atbMain.FindBand("Address"))
         band->SetVisible(on);
+    Focus_Follow(p);
 }
 
 void Cmd_TextLabels(Program& p, Tool& tool)

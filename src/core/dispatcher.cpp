@@ -44,17 +44,19 @@ void Layout_Choose(Program& p, int index)
     Win_Layout_Apply(p, p.state.Windows[static_cast<std::size_t>(index)].Data);
 }
 
+// What moves windows alone may also happen during a long operation.
 struct ListMenu {
     std::string_view Prefix;
     NamedList SharedState::*List;
     void (*Run)(Program& p, int index);
+    bool WhileBusy = false;
 };
 
 constexpr ListMenu listMenus[] = {
     {"ID_Favorite", &SharedState::Favorites, Favorite_Open},
     {"ID_Scheme", &SharedState::ThumbSchemes, Scheme_Choose},
     {"ID_TmpLst", &SharedState::Templates, Template_Choose},
-    {"ID_Window", &SharedState::Windows, Layout_Choose},
+    {"ID_Window", &SharedState::Windows, Layout_Choose, true},
 };
 
 // -- Boxes on the bands.
@@ -134,7 +136,7 @@ void Tool_Click(Program& p, Tool& tool)
         if (!id.starts_with(menu.Prefix))
             continue;
         const double index = Val(std::string_view(id).substr(menu.Prefix.size()));
-        if (!p.Busy() && index >= 1 && index <= List_Last(p.state.*menu.List))
+        if ((menu.WhileBusy || !p.Busy()) && index >= 1 && index <= List_Last(p.state.*menu.List))
             menu.Run(p, static_cast<int>(index));
         return;
     }

@@ -80,6 +80,7 @@ void Mode_Set(Program& p, int mode)
     p.state.RenMode = static_cast<std::int16_t>(mode);
     Win_Lock(p, true, p.main);
     Panels_Show(p);
+    Focus_Follow(p);
     p.main.tmrDateTimeClock.Enabled = false;
     Main_Layout(p);
     Mode_Box_Show(p);

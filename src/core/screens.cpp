@@ -94,18 +94,6 @@ void Thumbnail_Tools(Program& p, int screen, int left)
     Tools_Enable(p, {"ID_ThumbCaption", "ID_mnuCapAlign"}, thumbnails);
 }
 
-// A control that went away with its screen keeps no keys: the list of the new
-// screen gets them.
-void Focus_Follow(FrmMain& main)
-{
-    const Control* const active = main.ActiveControl();
-    if (active && active->IsShown())
-        return;
-    for (ListView* list : {&main.lsvSelMain, &main.lsvRename})
-        if (list->IsShown() && list->IsUsable())
-            list->SetFocus();
-}
-
 void All_Hide(FrmMain& main)
 {
     for (Control* control : std::initializer_list<Control*>{&main.picThumbnails, &main.fraSelect,
@@ -114,6 +102,16 @@ void All_Hide(FrmMain& main)
 }
 
 } // namespace
+
+void Focus_Follow(Program& p)
+{
+    const Control* const active = p.main.ActiveControl();
+    if (active && active->IsShown())
+        return;
+    for (ListView* list : {&p.main.lsvSelMain, &p.main.lsvRename})
+        if (list->IsShown() && list->IsUsable())
+            list->SetFocus();
+}
 
 void Screen_Show(Program& p, int screen, bool refill)
 {
@@ -131,7 +129,7 @@ void Screen_Show(Program& p, int screen, bool refill)
     Form_Resize(p);
     Screen_Content(p, screen, left, refill);
     Thumbnail_Tools(p, screen, left);
-    Focus_Follow(p.main);
+    Focus_Follow(p);
     Win_Lock(p, false, p.main);
     p.main.Refresh();
     p.state.ScreenChanging = false;

@@ -16,6 +16,10 @@ inline constexpr int viewThumbnails = 254;
 // for the screen in hand, or from inside another change, does nothing.
 void Screen_Show(Program& p, int screen, bool refill);
 
+// A control that went out of sight keeps no keys: the list in sight gets the
+// focus, and the control is left.
+void Focus_Follow(Program& p);
+
 // Changes the rename mode and its panel, and shows the row in hand in it.
 void Mode_Set(Program& p, int mode);
 

@@ -66,6 +66,7 @@ void Show_Address(Program& p, const std::string&)
     // The other screens never show it; the selection screen asks the flag.
     if (Band* band = p.main.atbMain.FindBand("Address"))
         band->SetVisible(on && p.state.CurScreen == screenSelection);
+    Focus_Follow(p);
 }
 
 void Show_TextLabels(Program& p, const std::string&)
