@@ -3,6 +3,7 @@
 #include "platform/files.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -57,6 +58,9 @@ public:
 
     virtual std::string ClipboardText() = 0;
     virtual void SetClipboardText(const std::string& text) = 0;
+
+    // Lets the person choose a folder; none when nothing was chosen.
+    virtual std::optional<std::string> SHBrowseForFolderA(const std::string& title) = 0;
 
     // Hands an address to the desktop's opener with a verb such as "open".
     // False, with a text a user can read in `why`, when that failed.

@@ -20,6 +20,7 @@ public:
     double ScreenHeight() const override { return 1080 * TwipsPerPixel(); }
     std::string ClipboardText() override { return {}; }
     void SetClipboardText(const std::string&) override {}
+    std::optional<std::string> SHBrowseForFolderA(const std::string&) override { return {}; }
     bool ShellExecuteA(const std::string&, const std::string&, std::string&) override
     {
         return true;

@@ -125,6 +125,12 @@ void ScriptedDesktop::PopUpMenu(Tool& menu, int xTwips, int yTwips)
         OnPopUp(menu);
 }
 
+std::optional<std::string> ScriptedDesktop::SHBrowseForFolderA(const std::string& title)
+{
+    FolderTitles.push_back(title);
+    return FolderChoice;
+}
+
 bool ScriptedDesktop::ShellExecuteA(const std::string& verb, const std::string& address,
                                     std::string& why)
 {

@@ -41,6 +41,9 @@ public:
     std::function<void(Tool&)> OnPopUp;
     std::function<void()> OnDrag; // while the drag goes on
 
+    // What is chosen in a folder dialog; none is Cancel. And its titles so far.
+    std::optional<std::string> FolderChoice;
+    std::vector<std::string> FolderTitles;
     // Why an address cannot be opened; empty lets it be opened.
     std::string ShellRefusal;
     // What can be read as a picture, with its size in pixels.
@@ -105,6 +108,7 @@ public:
     double ScreenHeight() const override { return 1080 * TwipsPerPixel(); }
     std::string ClipboardText() override { return Clipboard; }
     void SetClipboardText(const std::string& text) override { Clipboard = text; }
+    std::optional<std::string> SHBrowseForFolderA(const std::string& title) override;
     bool ShellExecuteA(const std::string& verb, const std::string& address,
                        std::string& why) override;
     bool LoadPicture(const std::string& path, int& widthPixels, int& heightPixels) override;

@@ -131,6 +131,23 @@ void ConsoleDesktop::PopUpMenu(Tool&, int, int)
     // A menu of the console is always open: its tools are clicked by name.
 }
 
+std::optional<std::string> ConsoleDesktop::SHBrowseForFolderA(const std::string& title)
+{
+    if (!Answers.empty()) {
+        const Answer next = Answers.front();
+        Answers.pop_front();
+        if (next.Word == "path")
+            return next.Path;
+        if (next.Word != "Cancel" && session_)
+            session_->Report("the dialog \"" + title + "\" offers no " + next.Word);
+    } else if (session_ && session_->IsTerminal()) {
+        const std::string path = session_->Ask(title + " ");
+        if (!path.empty())
+            return path;
+    }
+    return std::nullopt;
+}
+
 double ConsoleDesktop::ScreenWidth() const
 {
     return screenWidthPixels * TwipsPerPixel();

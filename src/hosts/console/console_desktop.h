@@ -44,6 +44,7 @@ public:
     double ScreenHeight() const override;
     std::string ClipboardText() override { return Clipboard; }
     void SetClipboardText(const std::string& text) override { Clipboard = text; }
+    std::optional<std::string> SHBrowseForFolderA(const std::string& title) override;
     bool ShellExecuteA(const std::string& verb, const std::string& address,
                        std::string& why) override;
     bool LoadPicture(const std::string& path, int& widthPixels, int& heightPixels) override;
