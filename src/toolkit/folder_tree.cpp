@@ -246,7 +246,7 @@ FolderNode* FolderTree::FindChild(const FolderNode& node, const std::string& nam
         if (!alike && SameText(child->Caption, name))
             alike = child.get();
     }
-    const bool isSame = alike && Source.IsSameFolder && Source.IsSameFolder(alike->Path, path);
+    const bool isSame = alike && (!Source.IsSameFolder || Source.IsSameFolder(alike->Path, path));
     return isSame ? alike : nullptr;
 }
 

@@ -112,8 +112,9 @@ bool Form::FilterKey(Control* target, Key& key)
         Bars->PersonClick(*tool);
         return false;
     }
-    const bool filtered = Key_Types(key) && target && Holds(target);
-    return !filtered || FilterChar(*target, key);
+    // Tab walks on, whatever a box lets in.
+    const bool isTyped = Key_Types(key) && key.Code != keyTab;
+    return !(isTyped && target && Holds(target)) || FilterChar(*target, key);
 }
 
 bool Form::DialogKey(Control* target, const Key& key)
