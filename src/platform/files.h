@@ -160,67 +160,35 @@ public:
 
     // Archive, Read-Only, Hidden, System and Directory (16) of one entry, a
     // link as itself; none when they cannot be read.
-    virtual std::optional<std::uint32_t> GetFileAttributesA(const std::string& path)
-    {
-        (void)path;
-        return std::nullopt;
-    }
+    virtual std::optional<std::uint32_t> GetFileAttributesA(const std::string& path) = 0;
     // Gives the entry exactly those of the four bits that are in `attributes`;
     // other bits are ignored. False when that failed, and then no bit that
     // can be kept has changed.
-    virtual bool SetFileAttributesA(const std::string& path, std::uint32_t attributes)
-    {
-        (void)path, (void)attributes;
-        return false;
-    }
+    virtual bool SetFileAttributesA(const std::string& path, std::uint32_t attributes) = 0;
     // What the system says of the last call that failed, for a user to read.
-    virtual std::string LastErrorText() const { return {}; }
+    virtual std::string LastErrorText() const = 0;
 
     // Opens a file, or for Times an entry of any kind (a link as itself).
     // noFile when that failed.
-    virtual FileHandle OpenFile(const std::string& path, OpenMode mode)
-    {
-        (void)path, (void)mode;
-        return noFile;
-    }
-    virtual void CloseHandle(FileHandle file) { (void)file; }
+    virtual FileHandle OpenFile(const std::string& path, OpenMode mode) = 0;
+    virtual void CloseHandle(FileHandle file) = 0;
     // Sets the three times of a file opened for them; a time of 0 is left
     // alone. False when one that was to change could not be set.
     virtual bool SetFileTime(FileHandle file, FileTime created, FileTime accessed,
-                             FileTime written)
-    {
-        (void)file, (void)created, (void)accessed, (void)written;
-        return false;
-    }
+                             FileTime written) = 0;
     // In bytes; none when it cannot be told.
-    virtual std::optional<std::uint64_t> FileLength(FileHandle file)
-    {
-        (void)file;
-        return std::nullopt;
-    }
+    virtual std::optional<std::uint64_t> FileLength(FileHandle file) = 0;
     // `count` bytes from `offset` on, or as many as there are.
     virtual std::optional<std::string> ReadBytes(FileHandle file, std::uint64_t offset,
-                                                 std::size_t count)
-    {
-        (void)file, (void)offset, (void)count;
-        return std::nullopt;
-    }
+                                                 std::size_t count) = 0;
     // Writes all of the bytes from `offset` on, which is no greater than the
     // length. When that failed, content and length are what they were.
-    virtual bool WriteBytes(FileHandle file, std::uint64_t offset, std::string_view bytes)
-    {
-        (void)file, (void)offset, (void)bytes;
-        return false;
-    }
+    virtual bool WriteBytes(FileHandle file, std::uint64_t offset, std::string_view bytes) = 0;
 
     // A local time, by the rule that the zone has for that date, to UTC. A
     // time that occurs twice is the first one. False for what is no time; `out`
     // then stays as it was.
-    virtual bool LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out)
-    {
-        (void)time, (void)out;
-        return false;
-    }
+    virtual bool LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out) = 0;
     // UTC to the local time of that very moment, taken apart. False when the
     // moment cannot be told; `out` then stays as it was.
     virtual bool FileTimeToLocalSystemTime(FileTime time, SystemTime& out) = 0;

@@ -252,24 +252,30 @@ TEST(PosixFiles, ReadWhole_waits_for_nobody_and_reads_no_folder)
     EXPECT_FALSE(files.ReadWhole("/dev/null", 10));
 }
 
-TEST(PosixFiles, Renaming_is_the_only_change_it_knows_yet)
+TEST(PosixFiles, Each_operation_changes_the_disk_and_reports)
 {
+    struct Row {
+        FileOpFunc Func;
+        const char *From, *To;
+        int Code;
+        std::vector<std::string> Names;
+    };
+    const Row rows[] = {
+        {foRename, "a", "b", diskOk, {"b"}},     {foRename, "a", "c", diskMissing, {"b"}},
+        {foCopy, "b", "c", diskOk, {"b", "c"}},  {foMove, "b", "c", diskExists, {"b", "c"}},
+        {foMove, "b", "d", diskOk, {"c", "d"}},  {foDelete, "c", "", diskOk, {"d"}},
+        {foDelete, "c", "", diskMissing, {"d"}},
+    };
     TempFolder folder("operations");
     PosixFiles files;
     folder.Write("a", "1");
-    for (const FileOpFunc func : {foMove, foCopy, foDelete}) {
-        EXPECT_EQ(files.SHFileOperationA({func, folder.Path("a"), folder.Path("b"), fofQuiet}),
-                  ownCodeBase + ENOTSUP);
-        EXPECT_EQ(files.LastError(), ownCodeBase + ENOTSUP);
+    for (const Row& row : rows) {
+        const std::string to = *row.To ? folder.Path(row.To) : "";
+        EXPECT_EQ(files.SHFileOperationA({row.Func, folder.Path(row.From), to, fofQuiet}), row.Code)
+            << row.Func << ' ' << row.From;
+        EXPECT_EQ(files.LastError(), row.Code) << row.Func << ' ' << row.From;
+        EXPECT_EQ(folder.Names(), row.Names) << row.Func << ' ' << row.From;
     }
-    EXPECT_EQ(folder.Names(), std::vector<std::string>{"a"});
-    EXPECT_EQ(files.SHFileOperationA({foRename, folder.Path("a"), folder.Path("b"), fofQuiet}),
-              diskOk);
-    EXPECT_EQ(files.LastError(), diskOk);
-    EXPECT_EQ(folder.Names(), std::vector<std::string>{"b"});
-    EXPECT_EQ(files.SHFileOperationA({foRename, folder.Path("a"), folder.Path("b"), fofQuiet}),
-              diskMissing);
-    EXPECT_EQ(files.LastError(), diskMissing);
 }
 
 TEST(PosixFiles, Wildcards_in_a_rename_are_names)

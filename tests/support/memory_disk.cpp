@@ -231,15 +231,26 @@ std::optional<std::string> MemoryDisk::ReadWhole(const std::string& path, std::u
     return whole;
 }
 
-// -- Renaming
+// -- Renaming; what else SHFileOperationA does stands in memory_disk_moves.cpp
 
 int MemoryDisk::SHFileOperationA(const FileOperation& op)
 {
     int code = Enter("SHFileOperationA", op.From, op.To);
     if (code == diskOk)
-        code = op.Func == foRename ? Rename(op.From, op.To) : notOnThisDisk;
+        code = Operate(op);
     Report(code);
     return code;
+}
+
+int MemoryDisk::Operate(const FileOperation& op)
+{
+    switch (op.Func) {
+    case foRename: return Rename(op.From, op.To);
+    case foMove:
+    case foCopy: return MoveOrCopy(op);
+    case foDelete: return Delete(op);
+    }
+    return CodeOf(codeIntoItselfWindows, codeIntoItselfPosix);
 }
 
 int MemoryDisk::Rename(const std::string& from, const std::string& to)
@@ -251,7 +262,9 @@ int MemoryDisk::Rename(const std::string& from, const std::string& to)
     if (const int code = RefusedName(to))
         return code;
     const auto source = tree_.Locate(from), target = tree_.Locate(to);
-    if (const int code = RefusedMove(source, target))
+    if (const int code = RefusedPlaces(source, target))
+        return code;
+    if (const int code = RefusedByState(source, target, ChildOf(source)))
         return code;
     Relink(source, target);
     return diskOk;
@@ -282,7 +295,7 @@ NodePtr MemoryDisk::ChildOf(const MemoryTree::Place& place) const
     return child == place.Folder->Children.end() ? nullptr : child->second;
 }
 
-int MemoryDisk::RefusedMove(const MemoryTree::Place& from, const MemoryTree::Place& to) const
+int MemoryDisk::RefusedPlaces(const MemoryTree::Place& from, const MemoryTree::Place& to) const
 {
     if (from.IsRoot())
         return diskDenied;
@@ -297,7 +310,7 @@ int MemoryDisk::RefusedMove(const MemoryTree::Place& from, const MemoryTree::Pla
         return diskMissingFolder;
     if (Holds(node, to.Folder))
         return IsWindows() ? codeIntoItselfWindows : codeIntoItselfPosix;
-    return RefusedByState(from, to, node);
+    return diskOk;
 }
 
 int MemoryDisk::RefusedByState(const MemoryTree::Place& from, const MemoryTree::Place& to,

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tavo {
@@ -39,14 +40,19 @@ public:
     // As another program would, replacing what lies at `to`.
     void MoveEntry(const std::string& from, const std::string& to);
 
+    // Without a trash nothing can be sent there.
+    void SetTrash(bool hasTrash) { hasTrash_ = hasTrash; }
+
     // Size without content behind it.
     void SetSize(const std::string& path, std::uint64_t size);
     void SetAttributes(const std::string& path, std::uint32_t attributes);
     void SetTimes(const std::string& path, FileTime written, FileTime created = {},
                   FileTime accessed = {});
-    // Held open by somebody: renaming fails with 32.
+    // Held open by somebody: renaming, moving and deleting fail with 32, and so does opening it for
+    // more than reading.
     void SetInUse(const std::string& path, bool inUse = true);
-    // A folder whose entries cannot be renamed: 5.
+    // A folder whose entries cannot be renamed, moved or deleted, and that takes
+    // no new ones: 5.
     void SetLocked(const std::string& folder, bool locked = true);
     // A folder that cannot be listed, a file that cannot be read: 5.
     void SetUnreadable(const std::string& path, bool unreadable = true);
@@ -65,6 +71,9 @@ public:
     std::vector<Entry> Entries() const;
     // The same as lines: `C:\a\`, `C:\a\x.txt = content`, `C:\a\l -> C:\b`.
     std::vector<std::string> Dump() const;
+    // What was sent to the trash, by its names of then, in that order; behind a
+    // folder all that is in it.
+    std::vector<Entry> Trashed() const;
 
     // -- What the program does to it.
 
@@ -84,6 +93,8 @@ public:
     void ForgetCalls();
     // Searches that have been begun and not closed.
     int OpenSearches() const { return static_cast<int>(searches_.size()); }
+    // Files that have been opened and not closed.
+    int OpenFiles() const { return static_cast<int>(openFiles_.size()); }
 
     // Runs before each call that follows. May change the disk; calls of the
     // port from inside it run no hook and meet no fault.
@@ -102,9 +113,7 @@ public:
     // From here on (a folder, with its separator) all is slow.
     void SetSlow(const std::string& path) { slow_ = path; }
 
-    // -- The port. SHFileOperationA renames; for the other operations it gives
-    // `notOnThisDisk`.
-    static constexpr int notOnThisDisk = 2050;
+    // -- The port.
 
     const PathRules& Rules() const override { return rules_; }
     FindHandle FindFirstFileA(const std::string& pattern, FindData& found) override;
@@ -116,6 +125,23 @@ public:
     std::optional<FolderId> FolderIdentity(const std::string& path) override;
     int SHFileOperationA(const FileOperation& op) override;
     std::optional<std::string> ReadWhole(const std::string& path, std::uint64_t limit) override;
+
+    // Windows opens no folders, nothing Read-Only for more than reading, and
+    // for Times no path of 128 characters and more. The others open anything
+    // for Times, a link as itself.
+    std::optional<std::uint32_t> GetFileAttributesA(const std::string& path) override;
+    bool SetFileAttributesA(const std::string& path, std::uint32_t attributes) override;
+    std::string LastErrorText() const override;
+    FileHandle OpenFile(const std::string& path, OpenMode mode) override;
+    void CloseHandle(FileHandle file) override;
+    bool SetFileTime(FileHandle file, FileTime created, FileTime accessed,
+                     FileTime written) override;
+    std::optional<std::uint64_t> FileLength(FileHandle file) override;
+    std::optional<std::string> ReadBytes(FileHandle file, std::uint64_t offset,
+                                         std::size_t count) override;
+    bool WriteBytes(FileHandle file, std::uint64_t offset, std::string_view bytes) override;
+
+    bool LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out) override;
     bool FileTimeToLocalSystemTime(FileTime time, SystemTime& out) override;
     std::vector<RootPlace> RootPlaces() override;
     bool IsSlowFolder(const std::string& path) override
@@ -133,6 +159,12 @@ private:
         std::vector<std::string> Keys;
         std::size_t Next = 0;
     };
+    // A file holds on to its entry, which may be renamed or removed meanwhile.
+    struct Opened {
+        std::string Path;
+        NodePtr Node;
+        OpenMode Mode = OpenMode::Read;
+    };
     // What happens once, at a call still to come.
     struct OneTime {
         std::string Name;
@@ -147,6 +179,11 @@ private:
     int Enter(const std::string& name, const std::string& path = "", const std::string& to = "");
     int RunHooks(const Call& call);
     bool Report(int code);
+    int CodeOf(int windows, int posix) const { return IsWindows() ? windows : posix; }
+
+    Opened* EnterOpen(const std::string& call, FileHandle file, OpenMode needed);
+    int FindToOpen(const std::string& path, OpenMode mode, NodePtr& node) const;
+    int RefusedOpen(const MemoryNode& node, OpenMode mode) const;
 
     int Begin(const std::string& pattern, Search& search) const;
     int BeginWildcards(const std::string& last, Search& search) const;
@@ -156,9 +193,15 @@ private:
     std::string LastPart(const std::string& path) const;
     bool IsTooLong(const std::string& path) const;
 
+    int Operate(const FileOperation& op);
     int Rename(const std::string& from, const std::string& to);
+    int MoveOrCopy(const FileOperation& op);
+    int Delete(const FileOperation& op);
+    bool IsFolderLike(const NodePtr& node) const;
+    int RefusedToGo(const MemoryTree::Place& from, const NodePtr& node) const;
+    int RefusedToCopy(const NodePtr& node) const;
     int RefusedName(const std::string& path) const;
-    int RefusedMove(const MemoryTree::Place& from, const MemoryTree::Place& to) const;
+    int RefusedPlaces(const MemoryTree::Place& from, const MemoryTree::Place& to) const;
     int RefusedByState(const MemoryTree::Place& from, const MemoryTree::Place& to,
                        const NodePtr& node) const;
     NodePtr ChildOf(const MemoryTree::Place& place) const;
@@ -169,8 +212,12 @@ private:
     MemoryTree tree_;
     std::map<FindHandle, Search> searches_;
     FindHandle lastHandle_ = invalidFind;
+    std::map<FileHandle, Opened> openFiles_;
+    FileHandle lastFile_ = noFile;
     int lastError_ = diskOk;
     int zoneMinutes_ = 0;
+    std::vector<std::pair<std::string, NodePtr>> trash_;
+    bool hasTrash_ = true;
     std::map<SpecialFolder, std::string> specialFolders_;
     std::string slow_;
     std::map<std::string, int> calls_;

@@ -166,6 +166,19 @@ NodePtr MemoryTree::Make(std::string_view path, std::uint32_t attributes)
     return node;
 }
 
+void MemoryTree::Copy(const NodePtr& node, const NodePtr& folder, const std::string& name)
+{
+    const NodePtr copy = NewChild(folder, name, node->Attributes);
+    copy->Created = node->Created;
+    copy->Accessed = node->Accessed;
+    copy->Written = node->Written;
+    copy->Size = node->Size;
+    copy->Content = node->Content;
+    copy->LinkTo = node->LinkTo;
+    for (const auto& [key, child] : node->Children)
+        Copy(child, copy, child->Name);
+}
+
 bool MemoryTree::Unlink(const NodePtr& folder, const std::string& key)
 {
     return folder && folder->Children.erase(key) > 0;

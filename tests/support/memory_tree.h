@@ -69,6 +69,8 @@ public:
     // Makes the entry with all folders above it, or gives the one there is.
     // Null when the path begins with no root or runs through a file.
     NodePtr Make(std::string_view path, std::uint32_t attributes);
+    // Puts a copy of the node, with all that is in it, into the folder.
+    void Copy(const NodePtr& node, const NodePtr& folder, const std::string& name);
     static bool Unlink(const NodePtr& folder, const std::string& key);
 
 private:

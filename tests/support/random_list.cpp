@@ -15,12 +15,12 @@ constexpr std::array nameTemplates = {
     "<#>",      "<#>",       "<#>",     "<#>",         "x<#>",      "<#>x",     "0<#>",
     "<ON>_<#>", "<ON><#>",   "<#><ON>", "<#><#>",      "<ON>.<#>",  "<ON>",     "<ON>",
     "a",        "1",         "X",       "<OE>",        "<on><ON>",  "<on>",     "b<#>.c",
-    "<T>_<#>",  "<ON> <AR>", "a:<#>",   "<#>.<OE>",    "\u00e4<#>", "\u00c4",   "",
+    "<X>_<#>",  "<ON> <XR>", "a:<#>",   "<#>.<OE>",    "\u00e4<#>", "\u00c4",   "",
     "<#",       "<OE><#>",   "<ON>#",   "<#>.<#>.<#>", "0<ON>",     "what?<#>", "<ON><OE><#>",
 };
 constexpr std::array extTemplates = {
     "<OE>", "<OE>", "<OE>", "<OE>", "",    "",        "txt",       "TXT",
-    "<#>",  "<ON>", "a.b",  "<oe>", "<Y>", "<#><OE>", "<OE>.<OE>",
+    "<#>",  "<ON>", "a.b",  "<oe>", "<Z>", "<#><OE>", "<OE>.<OE>",
 };
 constexpr std::array plainNames = {
     "a.txt", "A.txt",  "a.TXT",  "b.jpg",      "1.txt",       "01.txt",         "001.txt",

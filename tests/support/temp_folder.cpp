@@ -39,12 +39,13 @@ void MakeParents(const std::string& path)
 
 } // namespace
 
-TempFolder::TempFolder(std::string_view test)
+TempFolder::TempFolder(std::string_view test, const std::string& above)
 {
     std::error_code error;
-    const fs::path above = fs::canonical(fs::temp_directory_path(error), error);
+    const fs::path folder =
+        fs::canonical(above.empty() ? fs::temp_directory_path(error) : fs::path(above), error);
     Must(!error, "the folder for temporary files");
-    path_ = above.string() + "/tavo_" + std::string(test) + "_XXXXXX";
+    path_ = folder.string() + "/tavo_" + std::string(test) + "_XXXXXX";
     Must(::mkdtemp(path_.data()) != nullptr, path_);
     // Tests with the rights of another user look in too.
     Must(::chmod(path_.c_str(), 0755) == 0, path_);

@@ -13,8 +13,9 @@ namespace tavo {
 // since nothing after it would mean anything.
 class TempFolder {
 public:
-    // `test` becomes part of the folder's name.
-    explicit TempFolder(std::string_view test);
+    // `test` becomes part of the folder's name. It lies in the folder `above`,
+    // by itself the one for temporary files.
+    explicit TempFolder(std::string_view test, const std::string& above = {});
     ~TempFolder();
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;

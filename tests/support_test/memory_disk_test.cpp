@@ -339,16 +339,6 @@ TEST(MemoryDisk, Renaming_keeps_attributes_and_times)
     EXPECT_EQ(after->Written, before->Written);
 }
 
-TEST(MemoryDisk, Other_operations_are_not_on_this_disk)
-{
-    MemoryDisk disk;
-    disk.AddFile("C:\\a");
-    for (const FileOpFunc func : {foMove, foCopy, foDelete})
-        EXPECT_EQ(disk.SHFileOperationA({func, "C:\\a", "C:\\b", fofQuiet}),
-                  MemoryDisk::notOnThisDisk);
-    EXPECT_EQ(disk.Dump(), (Texts{"C:\\a = "}));
-}
-
 TEST(MemoryDisk, Calls_are_counted_by_name)
 {
     MemoryDisk disk;

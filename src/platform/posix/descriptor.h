@@ -22,6 +22,8 @@ public:
 
     bool IsOpen() const { return number_ >= 0; }
     int Number() const { return number_; }
+    // Gives the file away: somebody else closes it.
+    int Release() { return std::exchange(number_, -1); }
     void Close()
     {
         if (number_ >= 0)

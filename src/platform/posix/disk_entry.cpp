@@ -15,6 +15,8 @@ namespace tavo {
 
 namespace {
 
+constexpr const char* textName = "user.DOSATTRIB";
+
 constexpr unsigned entryMask =
     STATX_TYPE | STATX_MODE | STATX_SIZE | STATX_ATIME | STATX_MTIME | STATX_BTIME;
 
@@ -34,6 +36,18 @@ int RegularFileError(mode_t mode)
     if (S_ISREG(mode))
         return 0;
     return S_ISDIR(mode) ? EISDIR : EINVAL;
+}
+
+int ReadLongAttributes(const std::string& path, std::uint32_t& attributes)
+{
+    constexpr std::size_t largestText = 65'536; // the system's own limit
+    std::string text(largestText, '\0');
+    const ssize_t length = ::lgetxattr(path.c_str(), textName, text.data(), text.size());
+    if (length < 0)
+        return errno == ENODATA ? 0 : errno;
+    text.resize(static_cast<std::size_t>(length));
+    attributes = ParseStoredAttributes(text);
+    return 0;
 }
 
 int ReadAll(int file, std::uint64_t limit, std::uint64_t expected, std::string& bytes)
@@ -85,13 +99,18 @@ int ReadEntry(int folder, const char* name, FindData& found)
     return 0;
 }
 
-std::uint32_t ReadStoredAttributes(const std::string& path)
+int ReadStoredAttributes(const std::string& path, std::uint32_t& attributes)
 {
-    std::array<char, 256> text;
-    const ssize_t length = lgetxattr(path.c_str(), "user.DOSATTRIB", text.data(), text.size());
-    if (length <= 0)
+    attributes = 0;
+    std::array<char, 256> some;
+    const ssize_t length = ::lgetxattr(path.c_str(), textName, some.data(), some.size());
+    if (length >= 0) {
+        attributes = ParseStoredAttributes({some.data(), static_cast<std::size_t>(length)});
         return 0;
-    return ParseStoredAttributes({text.data(), static_cast<std::size_t>(length)});
+    }
+    if (errno != ERANGE)
+        return errno == ENODATA ? 0 : errno;
+    return ReadLongAttributes(path, attributes);
 }
 
 std::uint32_t ParseStoredAttributes(std::string_view text)

@@ -18,8 +18,10 @@ int ReadEntry(int folder, const char* name, FindData& found);
 
 // Archive, Hidden and System as the entry's extended attribute
 // `user.DOSATTRIB` keeps them: the text `0x` and hexadecimal digits, to which
-// file servers may add data of their own. 0 without it; a link has none.
-std::uint32_t ReadStoredAttributes(const std::string& path);
+// file servers may add data of their own. None without it; a link has none.
+// Gives 0 or the system's error number: ENOTSUP where the disk keeps no such
+// thing.
+int ReadStoredAttributes(const std::string& path, std::uint32_t& attributes);
 
 // The bits that such a text holds; 0 for any other text.
 std::uint32_t ParseStoredAttributes(std::string_view text);

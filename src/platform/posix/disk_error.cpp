@@ -3,6 +3,7 @@
 #include "platform/files.h"
 
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -41,6 +42,29 @@ int DiskCodeOf(int systemError)
     return ownCodeBase + systemError;
 }
 
+std::string ErrorText(int systemError)
+{
+    if (systemError == 0)
+        return {};
+    const char* const text = ::strerrordesc_np(systemError);
+    return text ? text : "Unknown error " + std::to_string(systemError);
+}
+
+int SystemErrorOf(int code)
+{
+    if (code > ownCodeBase)
+        return code - ownCodeBase;
+    // What a code stands for by itself is the first row that has it, but a
+    // folder that is missing is no file in its place.
+    if (code == diskMissingFolder)
+        return ENOENT;
+    for (const ErrorRow& row : errorTable) {
+        if (row.Code == code)
+            return row.System;
+    }
+    return EINVAL;
+}
+
 int MissingCodeOf(const std::string& folder)
 {
     struct statx data;
@@ -64,6 +88,18 @@ std::string FolderPart(std::string_view path)
 std::string_view NamePart(std::string_view path)
 {
     return path.substr(path.rfind('/') + 1);
+}
+
+std::string_view WithoutSlashes(std::string_view path)
+{
+    const std::size_t last = path.find_last_not_of('/');
+    return path.substr(0, last == path.npos ? 0 : last + 1);
+}
+
+bool IsUsableName(std::string_view name)
+{
+    constexpr std::size_t longestName = 255;
+    return !name.empty() && name.size() <= longestName && name != "." && name != "..";
 }
 
 } // namespace tavo

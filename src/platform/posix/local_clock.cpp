@@ -1,5 +1,6 @@
 #include "platform/posix/local_clock.h"
 
+#include <algorithm>
 #include <ctime>
 
 namespace tavo {
@@ -37,6 +38,43 @@ void SetDate(std::int64_t day, SystemTime& out)
     out.DayOfWeek = static_cast<int>((shifted + 3) % 7);
 }
 
+bool IsLeap(int year)
+{
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+}
+
+int DaysOfMonth(int year, int month)
+{
+    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    return month == 2 && IsLeap(year) ? 29 : days[month - 1];
+}
+
+bool IsWithin(int value, int first, int last)
+{
+    return first <= value && value <= last;
+}
+
+bool IsTime(const SystemTime& time)
+{
+    constexpr int firstYear = 1601, lastYear = 30'828;
+    return IsWithin(time.Year, firstYear, lastYear) && IsWithin(time.Month, 1, 12)
+           && IsWithin(time.Day, 1, DaysOfMonth(time.Year, time.Month))
+           && IsWithin(time.Hour, 0, 23) && IsWithin(time.Minute, 0, 59)
+           && IsWithin(time.Second, 0, 59) && IsWithin(time.Milliseconds, 0, 999);
+}
+
+// Seconds from 1970 to a date and time of day, as if it were UTC.
+std::int64_t SecondsOf(const SystemTime& time)
+{
+    const std::int64_t past = time.Year - 1601;
+    std::int64_t days = past * 365 + past / 4 - past / 100 + past / 400;
+    for (int month = 1; month < time.Month; ++month)
+        days += DaysOfMonth(time.Year, month);
+    days += time.Day - 1;
+    return days * secondsPerDay - secondsFrom1601To1970 + time.Hour * 3600 + time.Minute * 60
+           + time.Second;
+}
+
 std::int64_t OffsetFromSystem(std::int64_t unixSeconds)
 {
     const std::time_t moment = unixSeconds;
@@ -54,6 +92,14 @@ FileTime FileTimeFromUnix(std::int64_t seconds, std::uint32_t nanoseconds)
     if (seconds < -most - secondsFrom1601To1970)
         return {INT64_MIN};
     return {(seconds + secondsFrom1601To1970) * ticksPerSecond + nanoseconds / 100};
+}
+
+UnixTime UnixFromFileTime(FileTime time)
+{
+    const std::int64_t seconds = FloorDivide(time.Ticks, ticksPerSecond);
+    const std::int64_t rest = time.Ticks % ticksPerSecond;
+    const std::int64_t ticks = rest < 0 ? rest + ticksPerSecond : rest;
+    return {seconds - secondsFrom1601To1970, static_cast<std::uint32_t>(ticks * 100)};
 }
 
 LocalClock::LocalClock() : known_(knownStretches)
@@ -90,6 +136,39 @@ bool LocalClock::ToLocal(FileTime time, SystemTime& out)
     out.Second = second % 60;
     out.Milliseconds = static_cast<int>(time.Ticks % ticksPerSecond / 10'000);
     return true;
+}
+
+std::int64_t LocalClock::MomentOf(std::int64_t local)
+{
+    // No zone is further from UTC than this, and no rule is in force for a
+    // shorter time than the steps from one look to the next.
+    constexpr std::int64_t farthest = 27 * 3600;
+    std::int64_t smallest = INT64_MAX, largest = INT64_MIN, moment = INT64_MAX;
+    for (std::int64_t at = local - farthest; at <= local + farthest; at += stretchSeconds) {
+        const std::int64_t offset = OffsetAt(at);
+        if (offset == smallest && offset == largest)
+            continue;
+        smallest = std::min(smallest, offset);
+        largest = std::max(largest, offset);
+        if (OffsetAt(local - offset) == offset)
+            moment = std::min(moment, local - offset);
+    }
+    // A time that clocks leapt over is told by the rule before the leap.
+    return moment != INT64_MAX ? moment : local - smallest;
+}
+
+bool LocalClock::FromLocal(const SystemTime& time, FileTime& out)
+{
+    if (!IsTime(time))
+        return false;
+    const std::int64_t seconds = MomentOf(SecondsOf(time)) + secondsFrom1601To1970;
+    constexpr std::int64_t last = INT64_MAX / ticksPerSecond - 1;
+    if (seconds < 0 || seconds > last)
+        return false;
+    const std::int64_t ticks = seconds * ticksPerSecond + time.Milliseconds * 10'000;
+    if (ticks > 0)
+        out.Ticks = ticks;
+    return ticks > 0;
 }
 
 } // namespace tavo

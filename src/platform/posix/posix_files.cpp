@@ -1,5 +1,6 @@
 #include "platform/posix/posix_files.h"
 
+#include "platform/posix/attributes.h"
 #include "platform/posix/disk_entry.h"
 #include "platform/posix/disk_error.h"
 #include "platform/posix/places.h"
@@ -16,10 +17,27 @@ namespace {
 // allows a program no more than about a thousand.
 constexpr std::size_t mostHeldFolders = 64;
 
+PosixCalls WithSystemCalls(PosixCalls calls)
+{
+    if (!calls.Rename)
+        calls.Rename = SystemRenameDisk();
+    if (!calls.Entries)
+        calls.Entries = SystemEntryDisk();
+    if (!calls.Contents)
+        calls.Contents = SystemContentDisk();
+    if (!calls.Transfer)
+        calls.Transfer = SystemTransferDisk();
+    if (!calls.Bin)
+        calls.Bin = DesktopTrash();
+    return calls;
+}
+
 } // namespace
 
-PosixFiles::PosixFiles(std::unique_ptr<RenameDisk> disk)
-    : disk_(disk ? std::move(disk) : SystemRenameDisk()), renamer_(*disk_)
+PosixFiles::PosixFiles(PosixCalls calls)
+    : calls_(WithSystemCalls(std::move(calls))), renamer_(*calls_.Rename),
+      transfer_(*calls_.Transfer, *calls_.Rename, renamer_, *calls_.Bin),
+      openFiles_(*calls_.Entries, *calls_.Contents)
 {
 }
 
@@ -118,8 +136,10 @@ int PosixFiles::StatExact(const std::string& path, FindData& found)
         return MissingCodeOf(FolderPart(path));
     if (error != 0)
         return DiskCodeOf(error);
-    if ((found.Attributes & attrReparse) == 0)
-        found.Attributes |= ReadStoredAttributes(path);
+    if ((found.Attributes & attrReparse) == 0) {
+        AddStoredAttributes(*calls_.Entries, path, found.Attributes);
+        TakeStoredCreated(path, found.Created);
+    }
     found.Name = name;
     return diskOk;
 }
@@ -163,7 +183,7 @@ std::optional<FolderId> PosixFiles::FolderIdentity(const std::string& path)
 
 int PosixFiles::SHFileOperationA(const FileOperation& op)
 {
-    Done(op.Func == foRename ? renamer_.Rename(op.From, op.To) : ownCodeBase + ENOTSUP);
+    Done(op.Func == foRename ? renamer_.Rename(op.From, op.To) : transfer_.Run(op));
     return lastError_;
 }
 

@@ -3,31 +3,39 @@
 #include "platform/files.h"
 #include "platform/posix/local_clock.h"
 #include "platform/posix/mounts.h"
+#include "platform/posix/open_files.h"
 #include "platform/posix/rename.h"
 #include "platform/posix/search.h"
+#include "platform/posix/transfer.h"
 
 #include <map>
 #include <memory>
 
 namespace tavo {
 
+// The calls of the system that the disk goes by; those of the system itself
+// stand in for what is null.
+struct PosixCalls {
+    std::unique_ptr<RenameDisk> Rename = nullptr;
+    std::unique_ptr<EntryDisk> Entries = nullptr;
+    std::unique_ptr<ContentDisk> Contents = nullptr;
+    std::unique_ptr<TransferDisk> Transfer = nullptr;
+    std::unique_ptr<Trash> Bin = nullptr;
+};
+
 // The disk of Linux. Paths and names are bytes, and they begin with a slash; a
 // path that doesn't is in no folder (code 3). A NUL in a path is a bad name.
 //
 // A wildcard search gives the names byte by byte in order, `.` and `..` in
-// front. It reads no extended attributes, which would cost a call a file:
-// Archive, Hidden and System come only with Stat and with an exact name. A
-// link is listed as the link it is, with attrDirectory beside attrReparse when
-// it leads to a folder. A search that has come to its end holds nothing,
-// closed or not. The root itself can be asked for (Exists, Stat), but as it
-// has no name in a folder no search finds it.
-//
-// Of the changing calls this disk knows foRename; the others give
-// ownCodeBase + ENOTSUP and change nothing.
+// front. It reads no extended attributes, which would cost calls for each file:
+// Archive, Hidden, System and a Created that was set come only with Stat and
+// with an exact name. A link is listed as the link it is, with attrDirectory
+// beside attrReparse when it leads to a folder. A search that has come to its
+// end holds nothing, closed or not. The root itself can be asked for (Exists,
+// Stat), but as it has no name in a folder no search finds it.
 class PosixFiles : public Files {
 public:
-    // Renames by the calls of `disk`; by those of the system when it is null.
-    explicit PosixFiles(std::unique_ptr<RenameDisk> disk = nullptr);
+    explicit PosixFiles(PosixCalls calls = {});
 
     const PathRules& Rules() const override { return rules_; }
 
@@ -45,6 +53,23 @@ public:
 
     std::optional<std::string> ReadWhole(const std::string& path, std::uint64_t limit) override;
 
+    // A link has none of the four, and none can be set.
+    std::optional<std::uint32_t> GetFileAttributesA(const std::string& path) override;
+    bool SetFileAttributesA(const std::string& path, std::uint32_t attributes) override;
+    std::string LastErrorText() const override;
+
+    // Read and ReadWrite are for regular files alone and follow links: the
+    // bytes are those of what a link leads to, as with all that reads files.
+    FileHandle OpenFile(const std::string& path, OpenMode mode) override;
+    void CloseHandle(FileHandle file) override;
+    bool SetFileTime(FileHandle file, FileTime created, FileTime accessed,
+                     FileTime written) override;
+    std::optional<std::uint64_t> FileLength(FileHandle file) override;
+    std::optional<std::string> ReadBytes(FileHandle file, std::uint64_t offset,
+                                         std::size_t count) override;
+    bool WriteBytes(FileHandle file, std::uint64_t offset, std::string_view bytes) override;
+
+    bool LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out) override;
     bool FileTimeToLocalSystemTime(FileTime time, SystemTime& out) override;
 
     std::vector<RootPlace> RootPlaces() override;
@@ -58,8 +83,12 @@ private:
     bool Done(int code)
     {
         lastError_ = code;
+        systemError_ = 0;
         return code == diskOk;
     }
+    // The same for an error of the system, at the entry of this path or at an
+    // open file.
+    bool DoneSystem(int error, const std::string& path = {});
     int StatExact(const std::string& path, FindData& found);
     FindHandle FindFirst(const std::string& pattern, ListScope scope, FindData& found);
     FindHandle FindOne(const std::string& path, ListScope scope, FindData& found);
@@ -72,13 +101,16 @@ private:
     PathRules rules_ = PosixRules();
     MountTable mounts_;
     LocalClock clock_;
-    std::unique_ptr<RenameDisk> disk_;
+    PosixCalls calls_;
     Renamer renamer_;
+    Transfer transfer_;
+    OpenFiles openFiles_;
     std::map<FindHandle, std::unique_ptr<Search>> searches_;
     FindHandle lastHandle_ = invalidFind;
     Search* current_ = nullptr; // the search of currentHandle_
     FindHandle currentHandle_ = invalidFind;
     int lastError_ = diskOk;
+    int systemError_ = 0; // what lastError_ stands for, where that is known
 };
 
 } // namespace tavo

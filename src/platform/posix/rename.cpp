@@ -11,11 +11,6 @@ namespace {
 
 constexpr std::size_t maxNameBytes = 255;
 
-bool IsUsableName(std::string_view name)
-{
-    return !name.empty() && name.size() <= maxNameBytes && name != "." && name != "..";
-}
-
 bool LacksNoReplace(int error)
 {
     return error == EINVAL || error == ENOSYS || error == ENOTSUP;
@@ -26,12 +21,6 @@ bool LacksNoReplace(int error)
 bool LacksLinks(int error)
 {
     return LacksNoReplace(error) || error == EPERM || error == EMLINK || error == EACCES;
-}
-
-std::string_view WithoutSlashes(std::string_view path)
-{
-    const std::size_t last = path.find_last_not_of('/');
-    return path.substr(0, last == path.npos ? 0 : last + 1);
 }
 
 } // namespace

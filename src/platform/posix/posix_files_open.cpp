@@ -1,0 +1,109 @@
+// Attributes, times and bytes: what the disk changes of an entry but its name.
+
+#include "platform/posix/posix_files.h"
+
+#include "platform/posix/attributes.h"
+#include "platform/posix/disk_entry.h"
+#include "platform/posix/disk_error.h"
+
+#include <cerrno>
+#include <fcntl.h>
+
+namespace tavo {
+
+namespace {
+
+// The calls take a path as it stands, and a slash behind it would lead through
+// a link.
+int CheckEntryPath(const std::string& path)
+{
+    if (const int code = CheckPath(path))
+        return code;
+    return path != "/" && path.ends_with('/') ? MissingCodeOf(path) : diskOk;
+}
+
+} // namespace
+
+bool PosixFiles::DoneSystem(int error, const std::string& path)
+{
+    int code = DiskCodeOf(error);
+    if (error == ENOENT && !path.empty())
+        code = MissingCodeOf(FolderPart(path));
+    // A folder that is to be read as a file, which is no name that is taken.
+    if (error == EISDIR)
+        code = diskDenied;
+    lastError_ = code;
+    systemError_ = error;
+    return error == 0;
+}
+
+std::string PosixFiles::LastErrorText() const
+{
+    return ErrorText(systemError_ != 0 ? systemError_ : SystemErrorOf(lastError_));
+}
+
+std::optional<std::uint32_t> PosixFiles::GetFileAttributesA(const std::string& path)
+{
+    if (!Done(CheckEntryPath(path)))
+        return std::nullopt;
+    FindData found;
+    int error = ReadEntry(AT_FDCWD, path.c_str(), found);
+    if (error == 0 && (found.Attributes & attrReparse) == 0)
+        error = AddStoredAttributes(*calls_.Entries, path, found.Attributes);
+    if (!DoneSystem(error, path))
+        return std::nullopt;
+    return found.Attributes;
+}
+
+bool PosixFiles::SetFileAttributesA(const std::string& path, std::uint32_t attributes)
+{
+    return Done(CheckEntryPath(path))
+           && DoneSystem(SetAttributes(*calls_.Entries, path, attributes), path);
+}
+
+FileHandle PosixFiles::OpenFile(const std::string& path, OpenMode mode)
+{
+    FileHandle file = noFile;
+    if (Done(CheckEntryPath(path)))
+        DoneSystem(openFiles_.Open(path, mode, file), path);
+    return file;
+}
+
+void PosixFiles::CloseHandle(FileHandle file)
+{
+    DoneSystem(openFiles_.Close(file));
+}
+
+bool PosixFiles::SetFileTime(FileHandle file, FileTime created, FileTime accessed, FileTime written)
+{
+    return DoneSystem(openFiles_.SetTimes(file, {created, accessed, written}));
+}
+
+std::optional<std::uint64_t> PosixFiles::FileLength(FileHandle file)
+{
+    std::uint64_t length = 0;
+    if (!DoneSystem(openFiles_.Length(file, length)))
+        return std::nullopt;
+    return length;
+}
+
+std::optional<std::string> PosixFiles::ReadBytes(FileHandle file, std::uint64_t offset,
+                                                 std::size_t count)
+{
+    std::string bytes;
+    if (!DoneSystem(openFiles_.Read(file, offset, count, bytes)))
+        return std::nullopt;
+    return bytes;
+}
+
+bool PosixFiles::WriteBytes(FileHandle file, std::uint64_t offset, std::string_view bytes)
+{
+    return DoneSystem(openFiles_.Write(file, offset, bytes));
+}
+
+bool PosixFiles::LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out)
+{
+    return DoneSystem(clock_.FromLocal(time, out) ? 0 : EINVAL);
+}
+
+} // namespace tavo
