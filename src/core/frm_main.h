@@ -6,6 +6,7 @@
 #include "toolkit/folder_tree.h"
 #include "toolkit/form.h"
 #include "toolkit/list_view.h"
+#include "toolkit/mask_box.h"
 #include "toolkit/panels.h"
 #include "toolkit/text_box.h"
 #include "toolkit/tool_bars.h"
@@ -49,7 +50,7 @@ public:
 
     Frame fraDTCtr{*this, "fraDTCtr"};
     ControlArray<CheckBox> chkDateTime{*this, "chkDateTime", 1, 3};
-    ControlArray<TextBox> txtDateTime{*this, "txtDateTime", 1, 5};
+    ControlArray<MaskBox> txtDateTime{*this, "txtDateTime", 1, 5};
     ControlArray<Label> lblDateTime{*this, "lblDateTime", 1, 5};
 
     ControlArray<OptionButton> optmcdMode{*this, "optmcdMode", 1, 2};

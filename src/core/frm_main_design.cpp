@@ -102,6 +102,7 @@ constexpr Entry timeLabels[] = {
 };
 constexpr std::string_view timeBoxNames[] = {"Created date", "Created time", "Modified date",
                                              "Modified time", "Accessed date"};
+constexpr std::string_view datePattern = "##/##/####", timePattern = "##:##:## ??";
 
 void DateTime_Design(FrmMain& f)
 {
@@ -112,6 +113,7 @@ void DateTime_Design(FrmMain& f)
         const Label& label = f.lblDateTime[i];
         Put(f.txtDateTime[i], f.fraDTCtr,
             {label.Left + label.Width + 60, label.Top - 30, 1080, boxHeight});
+        f.txtDateTime[i].SetMask(std::string(i == 2 || i == 4 ? timePattern : datePattern));
         f.txtDateTime[i].AccessibleName = std::string(timeBoxNames[i - 1]);
         MarkAsLink(f.lblDateTime[i]);
     }

@@ -107,6 +107,8 @@ public:
     void SetSelectedItem(int position);
     // The first selected row behind `after`; 0 if none.
     int NextSelected(int after) const;
+    // All of them, in list order.
+    std::vector<int> SelectedRows() const;
 
     // Sorting. Sorts at once when `Sorted` goes on, and when key or order
     // change while it is on: stably, blind to case. Going off keeps the order.

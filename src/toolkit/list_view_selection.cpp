@@ -61,6 +61,14 @@ int ListView::NextSelected(int after) const
     return rows_->NextSelected(after);
 }
 
+std::vector<int> ListView::SelectedRows() const
+{
+    std::vector<int> rows;
+    for (int row = NextSelected(0); row > 0; row = NextSelected(row))
+        rows.push_back(row);
+    return rows;
+}
+
 void ListView::SelectExactly(const std::vector<int>& positions)
 {
     std::vector<int> wanted = positions;

@@ -47,18 +47,23 @@ protected:
     // Brings the selection in line with a text that is another now.
     void SettleSelection();
 
-private:
     enum class Edit { Whole, Typing, Erasing };
     struct Selection {
         int Start = 0, Length = 0;
     };
 
+    // An edit of the whole text: what it is now, and what is selected then.
     void Put(const std::string& text, Selection selection, Edit edit);
-    void Insert(const std::string& text, Edit edit);
+    // Puts the text in place of the selection.
+    virtual void Insert(const std::string& text, Edit edit);
+    // Takes away the selection, or without one the character behind the caret
+    // (before it).
+    virtual void Erase(bool forward);
+
+private:
     void SetSelection(Selection selection, bool caretAtStart);
     void MoveCaret(int to, bool extend);
     int CaretTarget(const Key& key) const;
-    void Erase(bool forward);
 
     int selStart_ = 0, selLength_ = 0;
     bool caretAtStart_ = false;       // the end of the selection that moves
