@@ -140,6 +140,8 @@ struct SharedState {
     std::string CurRow, OldName, OldExt, FullName;
     // Which of the boxes had the focus last: txtNameNum(0) or (1).
     std::int16_t NameBoxFocus = 0;
+    // And of the tag's fields (1 to 7) and the date boxes (their index + 10).
+    std::int16_t FieldFocus = 0;
     // The start box is being rewritten by its own change.
     bool StartBoxGuard = false;
 };

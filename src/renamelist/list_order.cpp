@@ -12,14 +12,6 @@ namespace tavo {
 
 namespace {
 
-std::vector<int> Rows_Selected(const ListView& list)
-{
-    std::vector<int> rows;
-    for (int row = list.NextSelected(0); row > 0; row = list.NextSelected(row))
-        rows.push_back(row);
-    return rows;
-}
-
 void Row_MoveSelected(Program& p, int from, int to)
 {
     Ren_Row_Move(p, from, to);
@@ -121,7 +113,7 @@ void Ren_Rows_MoveSelected(Program& p, int distance, bool downward)
 {
     ListView& list = p.main.lsvRename;
     Order_MakePlain(list);
-    const std::vector<int> rows = Rows_Selected(list);
+    const std::vector<int> rows = list.SelectedRows();
     const std::int64_t wanted = std::max(distance, 0);
     {
         const ListFreezeGuard freeze(list);
@@ -138,7 +130,7 @@ void Ren_Rows_Group(Program& p)
 {
     ListView& list = p.main.lsvRename;
     Order_MakePlain(list);
-    const std::vector<int> rows = Rows_Selected(list);
+    const std::vector<int> rows = list.SelectedRows();
     {
         const ListFreezeGuard freeze(list);
         for (std::size_t k = 1; k < rows.size(); ++k)

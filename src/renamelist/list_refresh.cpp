@@ -56,9 +56,7 @@ void Ren_List_Refresh(Program& p)
 void Ren_List_RemoveSelected(Program& p)
 {
     ListView& list = p.main.lsvRename;
-    std::vector<int> chosen;
-    for (int row = list.NextSelected(0); row > 0; row = list.NextSelected(row))
-        chosen.push_back(row);
+    const std::vector<int> chosen = list.SelectedRows();
     const int count = list.Count();
     std::size_t removed = 0;
     for (int step = 1; step <= count && !p.state.ActCancel; ++step) {

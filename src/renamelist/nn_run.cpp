@@ -22,8 +22,8 @@ class NNWalk {
 public:
     NNWalk(Program& p, const RunRows& rows)
         : p_(p), list_(p.main.lsvRename), rows_(rows),
-          names_(p.main.txtNameNum[nnName].Text.Get(), p.main.txtNameNum[nnExt].Text.Get(),
-                 p.state),
+          names_(p.main.txtNameNum[nnName].Text.Get(), p.main.txtNameNum[nnExt].Text.Get(), p.state,
+                 p.files),
           allRows_(static_cast<int>(rows.size()) == list_.Count()), counter_(names_.Start())
     {
     }
@@ -89,7 +89,7 @@ private:
         request_.NewFull = request_.OldFull;
         request_.OldFull += baseName_;
         Name_Split(baseName_, extension_);
-        names_.Build(baseName_, extension_, counter_);
+        names_.Build(request_.OldFull, baseName_, extension_, counter_);
         request_.NewName = names_.NewName();
         request_.NewExt = names_.NewExt();
         request_.NewFull += names_.NewName();
@@ -139,7 +139,7 @@ private:
         std::string base = aside, extension;
         Name_Split(base, extension);
         NameBuilder names = names_;
-        names.Build(base, extension, counter_);
+        names.Build(request_.OldFull, base, extension, counter_);
         return SameText(names.NewName(), aside);
     }
 

@@ -1,5 +1,9 @@
 #include "renamelist/templates.h"
 
+#include "core/tag_genres.h"
+#include "fileactions/mp3_tag.h"
+#include "renamelist/counters.h"
+#include "toolkit/numbers.h"
 #include "toolkit/text.h"
 
 #include <algorithm>
@@ -35,6 +39,17 @@ bool Is_Token(std::string_view token, bool allowExisting)
 void Remove_CharAt(std::string& text, int pos)
 {
     text = Left(text, pos - 1) + Mid(text, pos + 1);
+}
+
+std::string_view Genre_Text(std::uint8_t genre)
+{
+    const auto names = Tag_Genres();
+    return genre == 0 || genre >= names.size() ? std::string_view() : names[genre];
+}
+
+std::string Track_Text(std::uint8_t track, int digits)
+{
+    return track == 0 ? std::string() : Cnt_PadDigits(IntToText(track), digits);
 }
 
 } // namespace
@@ -95,6 +110,24 @@ void Tmpl_ApplyOld(std::string& text, std::string_view baseName, std::string_vie
         Tmpl_Replace(text, "<OE>", extension);
     if (flags[1])
         Tmpl_Replace(text, "<#>", counterText);
+}
+
+void Tmpl_ApplyTag(std::string& text, const MP3Tag& tag, int digits, const TmplFlags& flags)
+{
+    if (!flags[4] || tag.Tag == mp3Absent)
+        return;
+    if (flags[5])
+        Tmpl_Replace(text, "<T>", tag.Title);
+    if (flags[6])
+        Tmpl_Replace(text, "<AR>", tag.Artist);
+    if (flags[7])
+        Tmpl_Replace(text, "<AL>", tag.Album);
+    if (flags[8])
+        Tmpl_Replace(text, "<G>", Genre_Text(tag.Genre));
+    if (flags[9])
+        Tmpl_Replace(text, "<Y>", tag.Year);
+    if (flags[10])
+        Tmpl_Replace(text, "<TR>", Track_Text(tag.Track, digits));
 }
 
 std::string Str_KeepNonDigits(std::string_view text)

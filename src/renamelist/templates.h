@@ -6,6 +6,8 @@
 
 namespace tavo {
 
+struct MP3Tag;
+
 // Which tokens a template holds: 1 <#>, 2 <ON>, 3 <OE>, 5 <T>, 6 <AR>, 7 <AL>,
 // 8 <G>, 9 <Y>, 10 <TR>. 0 is true when any of 1 to 3 is, 4 when any of 5 to
 // 10 is.
@@ -27,6 +29,10 @@ void Tmpl_Replace(std::string& text, std::string_view token, std::string_view va
 // <ON>, <OE>, <#> in this order, each only if its flag is set.
 void Tmpl_ApplyOld(std::string& text, std::string_view baseName, std::string_view extension,
                    std::string_view counterText, const TmplFlags& flags);
+// The tokens of the tag in their order, each only if its flag is set. Where the
+// file has no tag they stay; where it could not be read they go. Genre 0 and
+// track 0 are none; the track is padded to `digits`.
+void Tmpl_ApplyTag(std::string& text, const MP3Tag& tag, int digits, const TmplFlags& flags);
 // Removes each digit "0" to "9".
 std::string Str_KeepNonDigits(std::string_view text);
 

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "fileactions/time_text.h"
+#include "platform/files.h"
+
+#include <string>
+
+namespace tavo {
+
+// Local time, with fields out of range repaired; what cannot be told becomes
+// 02/20/1967 at midnight.
+SystemTime FileTime_To_Local(Files& files, FileTime time);
+// 0, which leaves a stamp alone, for what is no time.
+FileTime Local_To_FileTime(Files& files, const SystemTime& time);
+
+// The stamps of a file and their texts.
+struct FileStamps {
+    FileTime Created, Modified, Accessed;
+    FileTimes Texts;
+};
+
+// False when the file cannot be read; all is empty then.
+bool File_Stamps_Get(Files& files, const std::string& path, FileStamps& stamps);
+// The texts alone, empty when the file cannot be read.
+FileTimes File_Times_Get(Files& files, const std::string& path);
+
+// Sets all three times. One whose text is the one that the file has keeps its
+// second, which a text cannot tell in the hour that comes twice; its fraction
+// goes. A text that is no time leaves its stamp alone. False when the file
+// cannot be opened or the times not be set; attributes come back in any case.
+bool File_Times_Set(Files& files, const std::string& path, const FileTimes& times);
+// The same with the stamps that the file is known to have.
+bool File_Times_Set(Files& files, const std::string& path, const FileTimes& times,
+                    const FileStamps& present);
+
+} // namespace tavo
