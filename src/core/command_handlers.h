@@ -38,6 +38,7 @@ void Cmd_PreviewOff(Program& p, Tool& tool);
 // Rename screen (command_handlers_rename.cpp)
 void Cmd_RenAll(Program& p, Tool& tool);
 void Cmd_RenSelected(Program& p, Tool& tool);
+void Cmd_RenUndo(Program& p, Tool& tool);
 void Cmd_RefreshList(Program& p, Tool& tool);
 void Cmd_SelDelete(Program& p, Tool& tool);
 void Cmd_SelGroup(Program& p, Tool& tool);

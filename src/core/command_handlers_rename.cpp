@@ -52,6 +52,11 @@ void Cmd_RenSelected(Program& p, Tool&)
     Act_Run(p, actSelected);
 }
 
+void Cmd_RenUndo(Program& p, Tool&)
+{
+    Act_Run(p, actUndo);
+}
+
 void Cmd_RefreshList(Program& p, Tool&)
 {
     if (p.state.CurScreen != screenSelection)

@@ -90,7 +90,7 @@ constexpr Command table[] = {
     {"ID_RenSelected", button, "Selected", "Rename Selected Files", "Rename Selected Items",
      "media-playback-start", "", "Rename", Cmd_RenSelected},
     {"ID_RenUndo", button, "Undo Rename", "Undo Last Rename Action", "Undo Last Rename",
-     "edit-undo", "", "Rename", nullptr},
+     "edit-undo", "", "Rename", Cmd_RenUndo},
     {"ID_RefreshList", button, "&Refresh", "Refresh the Rename List by Removing Missing Files", "",
      "view-refresh", "", "Rename", Cmd_RefreshList},
     {"ID_SelDelete", button, "&Delete", "Remove the Selected Files",

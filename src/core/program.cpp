@@ -5,8 +5,12 @@
 #include "core/screens.h"
 #include "core/start_up.h"
 #include "core/windows.h"
+#include "fileactions/date_time_panel.h"
 #include "fileactions/frm_delete.h"
+#include "fileactions/move_copy.h"
+#include "fileactions/mp3_panel.h"
 #include "renamelist/act_run.h"
+#include "renamelist/name_panels.h"
 #include "renamelist/nn_panel.h"
 #include "renamelist/rename_list.h"
 #include "selection/selection_screen.h"
@@ -22,6 +26,11 @@ Program::Program(Files& filesPort, Profile& profilePort, Desktop& desktopPort, S
     Sel_Screen_Wire(*this);
     Ren_List_Wire(*this);
     NN_Panel_Wire(*this);
+    SR_Panel_Wire(*this);
+    Case_Panel_Wire(*this);
+    Copy_Panel_Wire(*this);
+    DT_Panel_Wire(*this);
+    MP3_Panel_Wire(*this);
     Act_Wire(*this);
 }
 

@@ -3,10 +3,16 @@
 #include "core/frm_main.h"
 #include "core/program.h"
 #include "core/screens.h"
+#include "fileactions/attributes.h"
+#include "fileactions/date_time.h"
+#include "fileactions/move_copy.h"
+#include "fileactions/mp3_run.h"
 #include "renamelist/act_panel.h"
+#include "renamelist/name_walks.h"
 #include "renamelist/nn_run.h"
 #include "renamelist/preview.h"
 #include "renamelist/rename_list.h"
+#include "renamelist/undo.h"
 
 #include <algorithm>
 #include <array>
@@ -18,51 +24,77 @@ namespace {
 
 using RowWalk = void (*)(Program& p, const RunRows& rows);
 
-struct PanelLabel {
-    std::string_view Caption, Tip;
-};
+// How the panel names the three counts of a run.
+using CountLabels = std::array<std::string_view, 3>;
 
-// What a run of a mode does and how the panel names its counts.
+constexpr CountLabels renameLabels = {"Renamed:", "Skipped due to Error:", "Renaming Unnecessary:"};
+constexpr CountLabels tagLabels = {"Updated Tags:", "Skipped due to Error:", "Tag was Identical:"};
+constexpr CountLabels moveLabels = {"Files Moved:", "Skipped due to Error:", ""};
+constexpr CountLabels copyLabels = {"Files Copied:", "Skipped due to Error:", ""};
+constexpr CountLabels deleteLabels = {"Files Deleted:", "Skipped due to Error:", ""};
+
+// What a run of a mode does and how its counts are named. Modes that stand here
+// can run; the empty list's refuses before anything is asked.
 struct ModePlan {
     RenameMode Mode;
     RowWalk Walk;
-    std::array<PanelLabel, 3> Labels;
+    CountLabels Labels = renameLabels;
 };
 
-constexpr std::array<PanelLabel, 3> renameLabels = {{
-    {"Renamed:", "Number of Files Renamed"},
-    {"Skipped due to Error:", "Number of Files Skipped Due to Error during Rename Attempt"},
-    {"Renaming Unnecessary:", "Number of Files with Correct Name Already"},
-}};
-
-// Modes that stand here can run; all others refuse before anything is asked.
 constexpr ModePlan modePlans[] = {
-    {modeNameNumber, NN_Run, renameLabels},
+    {modeAttributes, Attr_Run},           {modeCase, Case_Run},     {modeDateTime, DT_Run},
+    {modeMoveCopy, Copy_Run, moveLabels}, {modeNameNumber, NN_Run}, {modeSearchReplace, SR_Run},
+    {modeMp3Tag, MP3_Run, tagLabels},
 };
+
+int Count_All(Program& p)
+{
+    return p.main.lsvRename.Count();
+}
+
+int Count_Selected(Program& p)
+{
+    return p.main.lsvRename.SelCount();
+}
+
+int Count_LastRun(Program& p)
+{
+    return p.state.LastRows;
+}
 
 void Mode_Work(Program& p, int action, int count);
 void Refresh_Work(Program& p, int action, int count);
 void Remove_Work(Program& p, int action, int count);
+void Undo_Work(Program& p, int action, int count);
+void Delete_Work(Program& p, int action, int count);
 
 constexpr int always = 0;
 
-// One action. `Question` comes from `AskFrom` rows on unless its warning is
-// off, the panel from `PanelFrom` rows on. With `RunsMode` it rests on the
-// mode in hand and its input.
+// One action and the rows it counts. `Question` comes from `AskFrom` rows on
+// unless its warning is suppressed, the panel from `PanelFrom` rows on. With
+// `RunsMode` it rests on the mode in hand and its input.
 struct ActionPlan {
     Action Code;
     bool RunsMode;
+    int (*Count)(Program& p);
     std::string_view Question;
+    std::int16_t SharedState::*Suppressed;
     int AskFrom;
     int PanelFrom;
     void (*Work)(Program& p, int action, int count);
 };
 
+constexpr auto warnRun = &SharedState::SupWarnRen;
+constexpr auto warnUndo = &SharedState::SupWarnUndo;
+
 constexpr ActionPlan actionPlans[] = {
-    {actAll, true, "Update All the Files?", always, always, Mode_Work},
-    {actSelected, true, "Update the Selected Files?", 2, 2, Mode_Work},
-    {actRefresh, false, "", always, always, Refresh_Work},
-    {actRemove, false, "", always, 2, Remove_Work},
+    {actAll, true, Count_All, "Update All the Files?", warnRun, always, always, Mode_Work},
+    {actSelected, true, Count_Selected, "Update the Selected Files?", warnRun, 2, 2, Mode_Work},
+    {actRefresh, false, Count_Selected, "", warnRun, always, always, Refresh_Work},
+    {actRemove, false, Count_Selected, "", warnRun, always, 2, Remove_Work},
+    {actUndo, false, Count_LastRun, "Undo the Last Rename Action?", warnUndo, 2, 2, Undo_Work},
+    {actDelete, false, Count_Selected, "", warnRun, always, 2, Delete_Work},
+    {actRecycle, false, Count_Selected, "", warnRun, always, 2, Delete_Work},
 };
 
 const ActionPlan* Action_Find(int action)
@@ -81,7 +113,7 @@ const ModePlan* Mode_Find(int mode)
 
 bool Run_IsAgreed(Program& p, const ActionPlan& plan, int count)
 {
-    if (plan.Question.empty() || p.state.SupWarnRen == 1 || count < plan.AskFrom)
+    if (plan.Question.empty() || p.state.*plan.Suppressed == 1 || count < plan.AskFrom)
         return true;
     return p.Say(std::string(plan.Question), BoxIcon::Question, BoxButtons::OkCancel,
                  BoxAnswer::Cancel)
@@ -137,15 +169,6 @@ void Rows_Clear(Program& p)
     p.desktop.DoEvents();
 }
 
-RunRows Rows_Selected(const ListView& list, int count)
-{
-    RunRows rows;
-    rows.reserve(static_cast<std::size_t>(count));
-    for (int row = list.NextSelected(0); row > 0; row = list.NextSelected(row))
-        rows.push_back(row);
-    return rows;
-}
-
 RunRows Rows_All(int count)
 {
     RunRows rows(static_cast<std::size_t>(count));
@@ -158,25 +181,56 @@ RunRows Rows_Collect(Program& p, int action, int count)
 {
     if (count != 1)
         Act_Stage(p, "Getting Selected Items...");
-    return action == actAll ? Rows_All(count) : Rows_Selected(p.main.lsvRename, count);
+    return action == actAll ? Rows_All(count) : p.main.lsvRename.SelectedRows();
 }
 
+void Panel_ShowLabels(Program& p, const CountLabels& labels)
+{
+    Act_Panel_Setup(p, false, labels[0], labels[1], labels[2]);
+}
+
+// Moves and copies skip nothing as unnecessary and tell nothing by tips.
 void Panel_ShowMode(Program& p, const ModePlan& plan)
 {
-    const auto& labels = plan.Labels;
-    Act_Panel_Setup(p, false, labels[0].Caption, labels[1].Caption, labels[2].Caption);
+    static constexpr std::string_view tips[] = {
+        "Number of Files Renamed", "Number of Files Skipped Due to Error during Rename Attempt",
+        "Number of Files with Correct Name Already"};
+    constexpr int moves = 1;
+    const bool isCopy = plan.Mode == modeMoveCopy && p.state.mcdMode != moves;
+    Panel_ShowLabels(p, isCopy ? copyLabels : plan.Labels);
+    if (plan.Mode == modeMoveCopy)
+        return;
     for (int k = 1; k <= 3; ++k)
-        p.main.lblAction[k].ToolTipText = std::string(labels[static_cast<std::size_t>(k - 1)].Tip);
+        p.main.lblAction[k].ToolTipText = std::string(tips[k - 1]);
+}
+
+// The box in which the person was typing; null where there is none.
+TextBox* Box_LastUsed(Program& p)
+{
+    constexpr int dateBoxes = 10, firstField = 1, lastDate = 5, genre = 7;
+    FrmMain& f = p.main;
+    const int field = p.state.FieldFocus;
+    switch (p.state.RenMode) {
+    case modeNameNumber: return f.txtNameNum.At(p.state.NameBoxFocus == nnExt ? nnExt : nnName);
+    case modeDateTime: {
+        const bool isDate = field > dateBoxes && field <= dateBoxes + lastDate;
+        return f.txtDateTime.At(isDate ? field - dateBoxes : firstField);
+    }
+    case modeMp3Tag:
+        if (field == genre)
+            return &f.cboMP3Genre;
+        return f.txtMP3.At(field > 0 && field < genre ? field : firstField);
+    default: return nullptr;
+    }
 }
 
 // Back to where the person was typing.
 void Focus_GiveBack(Program& p)
 {
-    if (p.state.RenMode != modeNameNumber)
-        return;
-    TextBox& box = p.main.txtNameNum[p.state.NameBoxFocus == nnExt ? nnExt : nnName];
-    box.SetFocus();
-    Box_SelectAll(box);
+    if (TextBox* box = Box_LastUsed(p)) {
+        box->SetFocus();
+        Box_SelectAll(*box);
+    }
 }
 
 void Row_Advance(Program& p, int row)
@@ -192,17 +246,22 @@ void Row_Advance(Program& p, int row)
 }
 
 // While rows change their names the list must not sort them elsewhere.
-void Rows_Walk(Program& p, const ModePlan& plan, const RunRows& rows)
+template <class Walk>
+void Unsorted_Walk(Program& p, int count, Walk walk)
 {
     ListView& list = p.main.lsvRename;
-    const bool sorted = rows.size() > 1 && list.Sorted();
+    const bool sorted = count > 1 && list.Sorted();
     list.SetSorted(false);
     p.desktop.DoEvents();
-    Panel_ShowMode(p, plan);
-    p.state.OldName.clear();
-    p.state.OldExt.clear();
-    plan.Walk(p, rows);
+    walk();
     list.RestoreSorted(sorted); // a run never reorders rows
+    p.state.ActReady = true;
+}
+
+void Errors_Head(Program& p)
+{
+    p.main.lsvRename.SetColumnCaption(p.state.colErrors,
+                                      "Errors: " + p.main.lblActionInfo[2].Caption.Get());
 }
 
 void Mode_Work(Program& p, int action, int count)
@@ -212,17 +271,20 @@ void Mode_Work(Program& p, int action, int count)
         return;
     Rows_Clear(p);
     const RunRows rows = Rows_Collect(p, action, count);
-    Rows_Walk(p, *plan, rows);
-    p.state.ActReady = true;
+    Unsorted_Walk(p, static_cast<int>(rows.size()), [&] {
+        Panel_ShowMode(p, *plan);
+        p.state.OldName.clear();
+        p.state.OldExt.clear();
+        plan->Walk(p, rows);
+    });
     p.state.LastRows = static_cast<std::int32_t>(rows.size());
     p.state.LastMode = plan->Mode;
-    p.main.lsvRename.SetColumnCaption(p.state.colErrors,
-                                      "Errors: " + p.main.lblActionInfo[2].Caption.Get());
+    Errors_Head(p);
     if (rows.size() == 1)
         Row_Advance(p, rows.front());
 }
 
-// -- Actions 2 and 3.
+// -- Actions 2 to 6.
 
 void Refresh_Work(Program& p, int, int)
 {
@@ -234,6 +296,20 @@ void Remove_Work(Program& p, int, int)
 {
     Act_Panel_Setup(p, false, "Removed:", "", "");
     Ren_List_RemoveSelected(p);
+}
+
+void Undo_Work(Program& p, int, int)
+{
+    Act_Panel_Setup(p, false, "Undo Successful:", "Skipped due to Error:", "");
+    Undo_Run(p);
+}
+
+void Delete_Work(Program& p, int action, int count)
+{
+    Panel_ShowLabels(p, deleteLabels);
+    Rows_Clear(p);
+    Unsorted_Walk(p, count, [&] { Delete_Run(p, count, action == actRecycle); });
+    Errors_Head(p);
 }
 
 // -- Buttons.
@@ -274,8 +350,7 @@ void Act_Run(Program& p, int action)
     if (!operation)
         return;
     Run_Reset(p.state);
-    const ListView& list = p.main.lsvRename;
-    const int count = action == actAll ? list.Count() : list.SelCount();
+    const int count = plan->Count(p);
     if (plan->RunsMode && Act_Validate(p) != 1)
         return;
     if (!Run_IsAgreed(p, *plan, count))

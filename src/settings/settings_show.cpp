@@ -3,9 +3,13 @@
 #include "core/layout.h"
 #include "core/screens.h"
 #include "core/tools.h"
+#include "fileactions/date_time_panel.h"
+#include "fileactions/move_copy.h"
 #include "renamelist/rename_list.h"
 #include "selection/paths.h"
 #include "toolkit/numbers.h"
+
+#include <array>
 
 namespace tavo {
 
@@ -162,18 +166,24 @@ void Show_SearchType(Program& p, const std::string&)
     Option_Choose(p.main.optSearchType, p.state.srType);
 }
 
-// One click handler reads all three flags from their boxes, so a flag that is
-// still to come must not be lost to a box that has not been told.
+// Each tick makes the click handler read all three flags from their boxes. A
+// flag whose box has not been told yet must not be lost to it.
 void Show_TimeChecks(Program& p, const std::string&)
 {
-    Tick(p.main.chkDateTime[1], p.state.dtCreate);
-    Tick(p.main.chkDateTime[2], p.state.dtMod);
-    Tick(p.main.chkDateTime[3], p.state.dtAccess);
+    SharedState& s = p.state;
+    const std::array flags = {s.dtCreate, s.dtMod, s.dtAccess};
+    for (int box = 1; box <= 3; ++box)
+        Tick(p.main.chkDateTime[box], flags[static_cast<std::size_t>(box - 1)]);
+    s.dtCreate = flags[0];
+    s.dtMod = flags[1];
+    s.dtAccess = flags[2];
+    DT_Groups_Enable(p);
 }
 
 void Show_MoveMode(Program& p, const std::string&)
 {
     Option_Choose(p.main.optmcdMode, p.state.mcdMode);
+    Copy_Mode_Show(p);
 }
 
 // The text stands as it was saved, beyond the list's length too: the box's own

@@ -92,15 +92,16 @@ TEST_F(DeleteDialog, Cancel_and_escape_and_the_frame_change_nothing)
     }
 }
 
-TEST_F(DeleteDialog, The_answers_that_touch_files_touch_none_by_themselves)
+TEST_F(DeleteDialog, The_dialog_itself_touches_no_file)
 {
     for (const int answer : {2, 3}) {
-        rig.Desktop.OnModal([answer](Form& form) {
-            static_cast<FrmDelete&>(form).cmdRemove[answer].PersonClick();
-        });
-        rig.Click("ID_SelDelete");
-        EXPECT_EQ(rig.Disk.Calls("SHFileOperationA"), 0) << answer;
-        EXPECT_EQ(rig.Main().lsvRename.Count(), 3) << answer;
+        ProgramRig one;
+        one.Start();
+        FrmDelete& form = one.P().Delete();
+        form.EnsureLoaded();
+        form.cmdRemove[answer].Click();
+        EXPECT_EQ(one.P().state.DeleteChoice, answer);
+        EXPECT_EQ(one.Disk.Calls("SHFileOperationA"), 0) << answer;
     }
 }
 

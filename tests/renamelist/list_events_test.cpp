@@ -141,19 +141,20 @@ TEST_P(Events, Cancel_and_the_frame_of_the_dialog_change_nothing)
     EXPECT_EQ(s.CurScreen, screenRename);
 }
 
-TEST_P(Events, Answers_whose_work_is_not_there_touch_no_file_and_no_row)
+TEST_P(Events, Answers_that_take_files_away_do_so)
 {
-    ground.Load({"d/a.txt", "d/b.txt"});
-    ground.Select({1, 2});
     for (const int choice : {2, 3}) {
-        ground.Desktop.OnModal([&](Form& form) {
-            s.DeleteChoice = static_cast<std::int16_t>(choice);
+        MemoryListGround one(GetParam());
+        one.Load({"d/a.txt", "d/b.txt"});
+        one.Select({1});
+        one.Desktop.OnModal([&](Form& form) {
+            one.P.state.DeleteChoice = static_cast<std::int16_t>(choice);
             form.Unload();
         });
-        Ren_Delete_Ask(p);
-        EXPECT_EQ(ground.Names(), (Texts{"a.txt", "b.txt"}));
-        EXPECT_EQ(s.CurScreen, screenRename);
-        EXPECT_TRUE(ground.Disk.Has(ground.Full("d/a.txt")));
+        Ren_Delete_Ask(one.P);
+        EXPECT_EQ(one.Names(), (Texts{"b.txt"})) << choice;
+        EXPECT_FALSE(one.Disk.Has(one.Full("d/a.txt"))) << choice;
+        EXPECT_EQ(one.P.state.CurScreen, screenRename);
     }
 }
 
