@@ -4,6 +4,7 @@
 #include "core/program.h"
 #include "renamelist/act_panel.h"
 #include "renamelist/executor.h"
+#include "renamelist/row_walk.h"
 #include "selection/paths.h"
 
 #include <algorithm>
@@ -90,19 +91,11 @@ void Copy_Run(Program& p, const RunRows& rows)
 {
     Act_Stage(p, p.state.mcdMode == moves ? "Moving Files..." : "Copying Files...");
     const std::string folder = Path_AddSlash(p.main.txtmcdPath.Text.Get(), p.files.Rules());
-    const int count = static_cast<int>(rows.size());
-    RowCounters counters;
-    for (int i = 1; i <= count; ++i) {
-        Act_Progress(p, i, count);
-        const int row = rows[static_cast<std::size_t>(i - 1)];
+    Rows_Walk(p, rows, [&](int row, RowCounters& counters) {
         const bool done = Row_Copy(p, row, folder);
         ++(done ? counters.Done : counters.Errors);
-        Act_Panel_Update(p, counters.Done, counters.Errors, 0);
-        p.main.lsvRename.SetCell(row, p.state.colErrors, done ? std::string_view() : unknown);
-        p.desktop.DoEvents();
-        if (p.state.ActCancel)
-            return;
-    }
+        return done ? std::string_view() : unknown;
+    });
 }
 
 // The rows are taken down first: what events do to the selection on the way

@@ -19,16 +19,12 @@ std::int16_t Position_Read(const TextBox& box)
     return position;
 }
 
-int Count_Of(const RunRows& rows)
-{
-    return static_cast<int>(rows.size());
-}
-
-// The row's own part of a request; the new names are the caller's.
+// The row's part of a request; its name stands for the new one, too.
 void Request_Begin(Program& p, int row, RenameRequest& request)
 {
     const ListView& list = p.main.lsvRename;
     request.OrigName = list.Text(row);
+    request.NewName = request.OrigName;
     request.NewFull = list.Cell(row, p.state.colPath);
     request.OldFull = request.NewFull + request.OrigName;
     request.RowPos = row;
@@ -39,6 +35,23 @@ void Request_Apply(Program& p, RenameRequest& request, RowCounters& counters)
     request.NewFull += request.NewName;
     Ren_File_Apply(p, request, counters);
     Act_Panel_Update(p, counters.Done, counters.Errors, counters.Unchanged);
+}
+
+// One rename a row: `work` makes the new name and applies the request.
+template <class Work>
+void Names_Walk(Program& p, const RunRows& rows, Work work)
+{
+    const int count = static_cast<int>(rows.size());
+    RowCounters counters;
+    RenameRequest request;
+    int step = 0;
+    for (const int row : rows) {
+        Act_Progress(p, ++step, count);
+        Request_Begin(p, row, request);
+        work(request, counters);
+        if (p.state.ActCancel)
+            return;
+    }
 }
 
 } // namespace
@@ -60,12 +73,7 @@ SearchTask SR_Task(const Program& p)
 void SR_Run(Program& p, const RunRows& rows)
 {
     Act_Stage(p, "Renaming Files...");
-    RowCounters counters;
-    RenameRequest request;
-    for (int i = 1; i <= Count_Of(rows); ++i) {
-        Act_Progress(p, i, Count_Of(rows));
-        Request_Begin(p, rows[static_cast<std::size_t>(i - 1)], request);
-        request.NewName = request.OrigName;
+    Names_Walk(p, rows, [&p](RenameRequest& request, RowCounters& counters) {
         request.NewExt.clear();
         Name_Split(request.NewName, request.NewExt);
         SR_Apply(request.NewName, request.NewExt, SR_Task(p));
@@ -73,28 +81,19 @@ void SR_Run(Program& p, const RunRows& rows)
             request.NewName += '.' + request.NewExt;
         Request_Apply(p, request, counters);
         p.desktop.DoEvents();
-        if (p.state.ActCancel)
-            return;
-    }
+    });
 }
 
 void Case_Run(Program& p, const RunRows& rows)
 {
     Act_Stage(p, "Changing Case...");
-    RowCounters counters;
-    RenameRequest request;
-    for (int i = 1; i <= Count_Of(rows); ++i) {
-        Act_Progress(p, i, Count_Of(rows));
-        Request_Begin(p, rows[static_cast<std::size_t>(i - 1)], request);
-        request.NewName = request.OrigName;
+    Names_Walk(p, rows, [&p](RenameRequest& request, RowCounters& counters) {
         Case_Apply(request.NewName, Case_Rules(p.state), p.state.CaseWordList, p.state.ccWord);
         p.desktop.DoEvents();
         // The extension of the preview, which the start of the run has emptied.
         request.NewExt = p.state.OldExt;
         Request_Apply(p, request, counters);
-        if (p.state.ActCancel)
-            return;
-    }
+    });
 }
 
 } // namespace tavo

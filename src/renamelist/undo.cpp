@@ -8,6 +8,7 @@
 #include "renamelist/act_panel.h"
 #include "renamelist/act_run.h"
 #include "renamelist/executor.h"
+#include "renamelist/row_walk.h"
 #include "selection/paths.h"
 #include "toolkit/text.h"
 
@@ -173,17 +174,8 @@ using RowUndo = std::string (*)(Program& p, int row, RowCounters& counters);
 template <RowUndo Undo>
 int Records_Undo(Program& p, const RunRows& rows)
 {
-    RowCounters counters;
-    for (int i = 1; i <= Count_Of(rows); ++i) {
-        Act_Progress(p, i, Count_Of(rows));
-        const int row = rows[static_cast<std::size_t>(i - 1)];
-        p.main.lsvRename.SetCell(row, p.state.colErrors, Undo(p, row, counters));
-        Act_Panel_Update(p, counters.Done, counters.Errors, counters.Unchanged);
-        p.desktop.DoEvents();
-        if (p.state.ActCancel)
-            break;
-    }
-    return counters.Errors;
+    const auto undo = [&p](int row, RowCounters& counters) { return Undo(p, row, counters); };
+    return Rows_Walk(p, rows, undo).Errors;
 }
 
 // The way back of a mode. Moves and copies have none.

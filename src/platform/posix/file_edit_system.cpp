@@ -1,15 +1,14 @@
 #include "platform/posix/file_edit.h"
 
 #include "platform/posix/disk_entry.h"
+#include "platform/posix/unique_text.h"
 
-#include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <ctime>
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/random.h>
 #include <sys/stat.h>
 
 namespace tavo {
@@ -90,21 +89,7 @@ public:
         return ErrorOf([&] { return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS); });
     }
 
-    int MakeUnique(std::string& text) override
-    {
-        std::array<unsigned char, 8> bytes;
-        const ssize_t count =
-            WithoutInterrupts([&] { return ::getrandom(bytes.data(), bytes.size(), 0); });
-        if (count != static_cast<ssize_t>(bytes.size()))
-            return count < 0 ? errno : EIO;
-        constexpr std::string_view digits = "0123456789abcdef";
-        text.clear();
-        for (const unsigned char byte : bytes) {
-            text.push_back(digits[byte >> 4]);
-            text.push_back(digits[byte & 15]);
-        }
-        return 0;
-    }
+    int MakeUnique(std::string& text) override { return MakeUniqueText(text); }
 
     int Create(const std::string& path, std::uint32_t mode, Descriptor& file) override
     {

@@ -1,7 +1,7 @@
 #include "platform/posix/entry_disk.h"
 #include "platform/posix/transfer_disk.h"
+#include "platform/posix/unique_text.h"
 
-#include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
@@ -9,7 +9,6 @@
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
-#include <sys/random.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <sys/xattr.h>
@@ -182,21 +181,7 @@ public:
         return errno;
     }
 
-    int MakeUnique(std::string& text) override
-    {
-        std::array<unsigned char, 8> bytes;
-        const ssize_t count =
-            WithoutInterrupts([&] { return ::getrandom(bytes.data(), bytes.size(), 0); });
-        if (count != static_cast<ssize_t>(bytes.size()))
-            return count < 0 ? errno : EIO;
-        constexpr std::string_view digits = "0123456789abcdef";
-        text.clear();
-        for (const unsigned char byte : bytes) {
-            text.push_back(digits[byte >> 4]);
-            text.push_back(digits[byte & 15]);
-        }
-        return 0;
-    }
+    int MakeUnique(std::string& text) override { return MakeUniqueText(text); }
 
     int MakeFolder(const Descriptor& folder, const std::string& name) override
     {
