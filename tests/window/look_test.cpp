@@ -1,12 +1,14 @@
-#include "window/person.h"
+#include "window/panel_person.h"
 
 #include "core/commands.h"
 #include "hosts/qt/binding.h"
 #include "hosts/qt/icons.h"
 #include "hosts/qt/list_page.h"
+#include "hosts/qt/qt_text.h"
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -14,6 +16,7 @@
 #include <QSignalSpy>
 #include <QTableView>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tavo {
@@ -34,6 +37,21 @@ public:
 
 private:
     QPalette before_;
+};
+
+// Puts letters of a size in force, and those before back.
+class Font_Set {
+public:
+    ~Font_Set() { QApplication::setFont(before_); }
+    void Use(int points)
+    {
+        QFont font = before_;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+    }
+
+private:
+    QFont before_ = QApplication::font();
 };
 
 // How light what is drawn is as a whole, from 0 to 255.
@@ -128,13 +146,94 @@ TEST(WindowLook, Rows_that_come_one_by_one_reach_the_view_together)
 
 TEST(WindowLook, The_panels_take_the_height_that_they_need)
 {
-    Person p("window_heights", {"a.txt"});
-    p.RenameAllFiles();
-    const Frame& panel = p.Main().ctlRbRenMode[modeNameNumber];
-    QWidget* shown = p.Window().Bound().WidgetOf(&panel);
-    EXPECT_EQ(shown->height(), std::lround(panel.Height / twipsPerPixel));
-    EXPECT_GE(shown->height(), shown->sizeHint().height());
-    EXPECT_EQ(p.Of<ListPage>("lsvRename").y(), shown->height() - 2);
+    Font_Set font;
+    PanelPerson p("window_heights", modeNameNumber, {"a.txt"});
+    for (const int points : {9, 18, 8}) {
+        font.Use(points);
+        p.Settle();
+        for (int mode = modeAttributes; mode <= modeMp3Tag; ++mode) {
+            p.Goto(mode);
+            const Frame& panel = p.Main().ctlRbRenMode[mode];
+            QWidget* shown = p.Window().Bound().WidgetOf(&panel);
+            EXPECT_EQ(shown->height(), std::lround(panel.Height / twipsPerPixel)) << mode;
+            EXPECT_GE(shown->height(), shown->sizeHint().height()) << mode << " at " << points;
+            EXPECT_EQ(p.Of<ListPage>("lsvRename").y(), shown->height() - 2) << mode;
+        }
+    }
+}
+
+TEST(WindowLook, Nothing_on_the_panels_is_cut_in_any_font)
+{
+    Font_Set font;
+    PanelPerson p("window_uncut", modeNameNumber, {"a.txt"});
+    p.Window().resize(1200, 800);
+    for (const int points : {8, 12, 18}) {
+        font.Use(points);
+        p.Settle();
+        for (int mode = modeAttributes; mode <= modeMp3Tag; ++mode) {
+            p.Goto(mode);
+            QWidget* panel = p.Window().Bound().WidgetOf(&p.Main().ctlRbRenMode[mode]);
+            for (const QWidget* part : panel->findChildren<QWidget*>()) {
+                if (!part->isVisible() || !p.Window().Bound().ControlOf(part))
+                    continue;
+                const QSize least = part->minimumSizeHint();
+                EXPECT_GE(part->height(), least.height())
+                    << part->objectName().toStdString() << " at " << points;
+                EXPECT_GE(part->width(), least.width())
+                    << part->objectName().toStdString() << " at " << points;
+                EXPECT_LE(part->mapTo(panel, part->rect().bottomRight()).x(), panel->width())
+                    << part->objectName().toStdString() << " at " << points;
+            }
+        }
+    }
+}
+
+TEST(WindowLook, Tab_walks_all_of_a_panel_in_the_order_of_the_form_and_nothing_unseen)
+{
+    PanelPerson p("window_tab_panels", modeNameNumber, {"a.mp3"});
+    for (int mode = modeAttributes; mode <= modeMp3Tag; ++mode) {
+        p.Goto(mode);
+        p.Table("lsvRename").setFocus();
+        p.ClickRow("lsvRename", 1);
+        std::vector<Control*> wanted, walked;
+        for (Control* control : p.Main().Controls())
+            if (control->TakesFocus() && control->IsShown() && control->IsUsable())
+                wanted.push_back(control);
+        const auto list = std::find(wanted.begin(), wanted.end(), &p.Main().lsvRename);
+        ASSERT_NE(list, wanted.end());
+        std::rotate(wanted.begin(), list + 1, wanted.end());
+        for (std::size_t stop = 0; stop < wanted.size(); ++stop) {
+            p.Key(Qt::Key_Tab);
+            walked.push_back(p.Window().Bound().ControlOf(QApplication::focusWidget()));
+        }
+        for (std::size_t stop = 0; stop < wanted.size(); ++stop)
+            EXPECT_EQ(walked[stop] ? walked[stop]->FullName() : "nothing", wanted[stop]->FullName())
+                << "mode " << mode;
+    }
+}
+
+TEST(WindowLook, Captions_tips_and_boxes_of_the_panels_are_those_of_the_controls)
+{
+    PanelPerson p("window_tips", modeNameNumber, {"a.txt"});
+    for (const Control* control : p.Main().Controls()) {
+        QWidget* widget = p.Window().Bound().WidgetOf(control);
+        auto* button = qobject_cast<QAbstractButton*>(widget);
+        const std::string* caption = control->MnemonicCaption();
+        const Control* panel = control;
+        while (panel && panel->Name() != "ctlRbRenMode")
+            panel = panel->Container;
+        if (!widget || !panel)
+            continue;
+        EXPECT_EQ(widget->toolTip().toStdString(), control->ToolTipText.Get())
+            << control->FullName();
+        if (!button || !caption)
+            continue;
+        EXPECT_EQ(Plain_Caption(button->text().toStdString()), Plain_Caption(*caption))
+            << control->FullName();
+    }
+    for (const char* name : {"chkAttr(0)", "optCase(1)", "chkDateTime(1)", "cmdmcdPath",
+                             "optSearchType(1)", "chkMP3(1)"})
+        EXPECT_FALSE(p.Of<QAbstractButton>(name).text().isEmpty()) << name;
 }
 
 TEST(WindowLook, The_program_and_the_window_agree_on_its_size)
@@ -184,16 +283,19 @@ TEST(WindowLook, A_place_off_every_screen_is_not_gone_to)
     EXPECT_EQ(p.Window().pos(), QPoint(20, 30));
 }
 
-TEST(WindowLook, The_panel_fits_into_the_smallest_layout)
+TEST(WindowLook, The_panels_fit_into_the_smallest_layout)
 {
-    Person p("window_smallest", {"a.txt"});
+    PanelPerson p("window_smallest", modeNameNumber, {"a.txt"});
     p.Main().lblTmpInsert[tmplCurrentLabel].Caption = "A template with a rather long name";
-    p.RenameAllFiles();
+    p.Main().cbomcdPath.AddItem("A favorite with a name that is much longer than a window is wide");
     p.Window().resize(300, 300);
     p.Settle();
-    const Frame& panel = p.Main().ctlRbRenMode[modeNameNumber];
-    ASSERT_EQ(panel.Width, 6732);
-    EXPECT_LE(p.Window().Bound().WidgetOf(&panel)->minimumSizeHint().width(), 449);
+    for (int mode = modeAttributes; mode <= modeMp3Tag; ++mode) {
+        p.Goto(mode);
+        const Frame& panel = p.Main().ctlRbRenMode[mode];
+        ASSERT_EQ(panel.Width, 6732) << mode;
+        EXPECT_LE(p.Window().Bound().WidgetOf(&panel)->minimumSizeHint().width(), 449) << mode;
+    }
 }
 
 TEST(WindowLook, Nothing_on_the_bars_is_cut_at_the_default_size)

@@ -1,7 +1,6 @@
 #include "hosts/qt/main_window.h"
 
 #include "core/frm_main.h"
-#include "core/state.h"
 #include "hosts/qt/action_pane.h"
 #include "hosts/qt/bar_view.h"
 #include "hosts/qt/bar_walk.h"
@@ -9,7 +8,7 @@
 #include "hosts/qt/form_window.h"
 #include "hosts/qt/icons.h"
 #include "hosts/qt/list_page.h"
-#include "hosts/qt/name_number_panel.h"
+#include "hosts/qt/mode_panels.h"
 #include "hosts/qt/parts.h"
 #include "hosts/qt/person_input.h"
 #include "hosts/qt/qt_text.h"
@@ -17,7 +16,6 @@
 
 #include <QBoxLayout>
 #include <QEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QStatusTipEvent>
 
@@ -115,16 +113,7 @@ void MainWindow::BuildPanels()
         auto* face = new QWidget(centralWidget());
         auto* column = new QVBoxLayout(face);
         column->setContentsMargins(0, 0, 0, 0);
-        QWidget* inside = nullptr;
-        if (panel->Index() == modeNameNumber) {
-            inside = new NameNumberPanel(form_, *binder_, face);
-        } else if (panel->Index() == modeEmpty) {
-            auto* text = new QLabel(face);
-            text->setAlignment(Qt::AlignCenter);
-            text->setMargin(fontMetrics().height() / 2);
-            binder_->Bind(*text, form_.lblEmpty);
-            inside = text;
-        }
+        QWidget* inside = ModePanel_Make(panel->Index(), form_, *binder_, face);
         if (inside) {
             column->addWidget(inside);
             panels_.emplace_back(panel.get(), inside);

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 namespace tavo {
 
 class Binder;
@@ -15,10 +17,17 @@ class NameNumberPanel : public QWidget {
 public:
     NameNumberPanel(FrmMain& form, Binder& binder, QWidget* parent);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     QWidget* Templates(FrmMain& form, Binder& binder);
     QWidget* Inserts(FrmMain& form, Binder& binder);
     QWidget* Counter(FrmMain& form, Binder& binder);
+    // The first captions of all rows begin and end where the widest one does.
+    void Align();
+
+    std::vector<QWidget*> firstCaptions_;
 };
 
 } // namespace tavo

@@ -8,7 +8,6 @@
 #include <QClipboard>
 #include <QDateTime>
 #include <QDesktopServices>
-#include <QFileDialog>
 #include <QDialog>
 #include <QDrag>
 #include <QMessageBox>
@@ -240,13 +239,12 @@ void QtDesktop::SetClipboardText(const std::string& text)
 
 std::optional<std::string> QtDesktop::SHBrowseForFolderA(const std::string& title)
 {
+    if (!OnBrowse)
+        return std::nullopt;
     const QScopedValueRollback<int> inside(inside_, inside_ + 1);
     if (BeforeShowing)
         BeforeShowing();
-    const QString chosen = QFileDialog::getExistingDirectory(FrontWindow(), ToQt(title));
-    if (chosen.isEmpty())
-        return std::nullopt;
-    return FromQt(chosen);
+    return OnBrowse(title, FrontWindow());
 }
 
 bool QtDesktop::ShellExecuteA(const std::string&, const std::string& address, std::string& why)

@@ -31,6 +31,8 @@ public:
     std::function<bool()> IsPaused;
     // Shows the menu of a menu tool.
     std::function<void(Tool& menu, int xTwips, int yTwips)> OnPopUp;
+    // Lets the person choose a folder, over this window.
+    std::function<std::optional<std::string>(const std::string& title, QWidget* owner)> OnBrowse;
     // Called in front of everything that lets the person see or do something.
     std::function<void()> BeforeShowing;
 

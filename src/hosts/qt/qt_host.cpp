@@ -3,6 +3,9 @@
 #include "core/frm_main.h"
 #include "fileactions/frm_delete.h"
 #include "hosts/qt/delete_dialog.h"
+#include "hosts/qt/folder_dialog.h"
+#include "hosts/qt/qt_text.h"
+#include "selection/paths.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -32,6 +35,9 @@ QtHost::QtHost(const StartInfo& info)
     desktop_.OnPopUp = [this](Tool& menu, int x, int y) {
         window_.PopUp(menu, {Pixels(x), Pixels(y)});
     };
+    desktop_.OnBrowse = [this](const std::string& title, QWidget* owner) {
+        return Browse(title, owner);
+    };
     desktop_.BeforeShowing = [this] { window_.Bound().Queue().Flush(); };
     unloaded_ = program_.main.Unloaded.Listen([] { QCoreApplication::quit(); });
     // When Qt is about to wait for events and no call of the program is under
@@ -41,6 +47,21 @@ QtHost::QtHost(const StartInfo& info)
                          if (!desktop_.IsInside())
                              program_.Settle();
                      });
+}
+
+// Begins where the panel points to, else where the files were picked.
+std::optional<std::string> QtHost::Browse(const std::string& title, QWidget* owner)
+{
+    const PathRules& rules = files_.Rules();
+    const FrmMain& main = program_.main;
+    std::string named = main.txtmcdPath.Text;
+    if (!named.empty())
+        named = Path_WithoutDetours(files_, Path_AddSlash(named, rules));
+    const auto chosen = Folder_Choose(main.ftvSelMain.Source, {named, program_.state.StartPath},
+                                      ToQt(title), owner);
+    if (!chosen)
+        return std::nullopt;
+    return Path_RemoveSlash(*chosen, rules);
 }
 
 bool QtHost::Start()

@@ -20,6 +20,8 @@ public:
     MainWindow& Window() { return window_; }
 
 private:
+    std::optional<std::string> Browse(const std::string& title, QWidget* owner);
+
     PosixFiles files_;
     PosixProfile profile_;
     QtDesktop desktop_;

@@ -1,5 +1,6 @@
 #include "hosts/qt/binder.h"
 #include "hosts/qt/qt_text.h"
+#include "toolkit/mask_box.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -74,10 +75,31 @@ void TellCaret(const QLineEdit& line, TextBox& box)
         box.Select(now.Start, now.Length);
 }
 
+// What has come in stands before the caret. It goes into the places of the
+// pattern from where it was put in, instead of pushing the others on.
+void EditedInMask(const QLineEdit& line, MaskBox& box)
+{
+    const QString after = line.text(), before = ToQt(box.Text);
+    const auto caret = static_cast<qsizetype>(line.cursorPosition());
+    const auto kept = std::max<qsizetype>(0, before.size() - (after.size() - caret));
+    qsizetype same = 0;
+    while (same < std::min(kept, caret) && before[same] == after[same])
+        ++same;
+    const QString comes = after.mid(same, caret - same);
+    box.Select(static_cast<int>(same), static_cast<int>(kept - same));
+    box.SetSelText(FromQt(comes));
+}
+
 } // namespace
 
 void Binder::Edited(QLineEdit& line, TextBox& box, const QString& before)
 {
+    auto* mask = dynamic_cast<MaskBox*>(&box);
+    if (mask && !mask->Mask().empty()) {
+        EditedInMask(line, *mask);
+        queue_.Flush();
+        return;
+    }
     CutToRoom(line, box.MaxLength, Chars_In(before));
     const CharRange now = Selection_Of(line);
     box.PersonEdited(FromQt(line.text()), now.Start, now.Length);
