@@ -1,4 +1,5 @@
 #include "bare_disk.h"
+#include "renamelist/change_case.h"
 #include "stand.h"
 #include "work.h"
 
@@ -112,21 +113,59 @@ public:
         int round = 0;
         std::string prefix;
         return Measure(
-            plan,
-            {[&] { prefix = "r" + std::to_string(round) + "_"; },
-             [&] { stand_.Number(prefix + "<#>", 1); }},
-            {[&] { newNames_ = Numbered("r" + std::to_string(++round) + "_", 1, count_); },
-             [&] { Bare_Rename(theirs_, names_, newNames_); }});
+            plan, {[&] { prefix = Beginning(++round); }, [&] { stand_.Number(prefix + "<#>", 1); }},
+            BareRename("r"));
+    }
+
+    // Every name gets another beginning.
+    Pair Search(const Plan& plan)
+    {
+        int round = 0;
+        stand_.Number(Beginning(round) + "<#>", 1);
+        return Measure(plan,
+                       {[&] {
+                            stand_.P.main.txtSearchFind.Text = Beginning(round);
+                            stand_.P.main.txtSearchReplace.Text = Beginning(++round);
+                        },
+                        [&] { stand_.Run(modeSearchReplace); }},
+                       BareRename("s"));
+    }
+
+    // All letters in turn large and small.
+    Pair Case(const Plan& plan)
+    {
+        stand_.Number("holiday_<#>", 1);
+        return Measure(plan,
+                       {[&] {
+                            auto& mode = stand_.P.state.ccMode;
+                            mode = mode == caseUpper ? caseLower : caseUpper;
+                        },
+                        [&] { stand_.Run(modeCase); }},
+                       BareRename("c"));
+    }
+
+    // The way back against the way there.
+    Pair CounterBack(const Plan& plan)
+    {
+        return Measure(plan, {{}, [&] { stand_.Undo(); }},
+                       {{}, [&] { stand_.Number("back_<#>", 1); }});
+    }
+    Pair ShiftBack(const Plan& plan)
+    {
+        return Measure(plan, {{}, [&] { stand_.Undo(); }}, {{}, [&] { stand_.Number("<#>", 2); }});
+    }
+    Pair CaseBack(const Plan& plan)
+    {
+        stand_.P.state.ccMode = caseUpper;
+        return Measure(plan, {{}, [&] { stand_.Undo(); }}, {{}, [&] { stand_.Run(modeCase); }});
     }
 
     // Every file gets the name that the next one has.
     Pair Shift(const Plan& plan)
     {
-        int start = 1, round = 0;
+        int start = 1;
         const Pair pair =
-            Measure(plan, {{}, [&] { stand_.Number("<#>", ++start); }},
-                    {[&] { newNames_ = Numbered("b" + std::to_string(++round) + "_", 1, count_); },
-                     [&] { Bare_Rename(theirs_, names_, newNames_); }});
+            Measure(plan, {{}, [&] { stand_.Number("<#>", ++start); }}, BareRename("b"));
         Require(stand_.Renames.Text(1) == Numbered("", start, 1)[0]
                     && stand_.Renames.Text(count_) == Numbered("", start + count_ - 1, 1)[0],
                 "the rows were not shifted");
@@ -134,6 +173,18 @@ public:
     }
 
 private:
+    static std::string Beginning(int round) { return "r" + std::to_string(round) + "_"; }
+
+    // Every file gets a name that no file had.
+    Contender BareRename(const std::string& letter)
+    {
+        return {[this, letter, round = 0]() mutable {
+                    const std::string prefix = letter + std::to_string(++round) + "_";
+                    newNames_ = Numbered(prefix, 1, count_);
+                },
+                [this] { Bare_Rename(theirs_, names_, newNames_); }};
+    }
+
     const std::string& MakeFolders(const std::string& folder)
     {
         Folder_Make(ours_);
@@ -147,14 +198,30 @@ private:
     Names names_, newNames_;
 };
 
-void Counter_Measure(Plan& plan)
+struct RenameWork {
+    const char* Name;
+    Pair (RenameRace::*Race)(const Plan& plan);
+    double Goal;
+};
+
+constexpr RenameWork renames[] = {
+    {"rename with a counter, 100,000 files", &RenameRace::Counter, 1.25},
+    {"search and replace, 100,000 files", &RenameRace::Search, 1.25},
+    {"change case, 100,000 files", &RenameRace::Case, 1.25},
+    {"undo of a counter, against its run", &RenameRace::CounterBack, 2.2},
+    {"undo of names that moved on, against its run", &RenameRace::ShiftBack, 2.2},
+    {"undo of change case, against its run", &RenameRace::CaseBack, 2.2},
+};
+
+void Rename_Measure(Plan& plan, const RenameWork& work)
 {
-    const std::string work = "rename with a counter, 100,000 files";
-    if (!plan.Wants(work))
+    if (!plan.Wants(work.Name))
         return;
-    Note(work);
-    const Pair pair = RenameRace(plan, allFiles).Counter(plan);
-    plan.Results.push_back({work, pair.Tavo * msPerSecond, pair.Limit * msPerSecond, "ms", 1.25});
+    Note(work.Name);
+    RenameRace race(plan, plan.Files);
+    const Pair pair = (race.*work.Race)(plan);
+    plan.Results.push_back(
+        {work.Name, pair.Tavo * msPerSecond, pair.Limit * msPerSecond, "ms", work.Goal});
 }
 
 void Shift_Measure(Plan& plan)
@@ -192,7 +259,8 @@ void Walks_Measure(Plan& plan)
 
 void Renames_Measure(Plan& plan)
 {
-    Counter_Measure(plan);
+    for (const RenameWork& work : renames)
+        Rename_Measure(plan, work);
     Shift_Measure(plan);
 }
 

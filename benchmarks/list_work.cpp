@@ -6,7 +6,6 @@
 #include "work.h"
 
 #include <algorithm>
-#include <malloc.h>
 #include <random>
 
 namespace tavo::bench {
@@ -15,12 +14,6 @@ namespace {
 
 constexpr int manyRows = 1'000'000;
 constexpr double msPerSecond = 1000, usPerSecond = 1e6;
-
-double HeapBytes()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
-}
 
 // The names in a random order that is the same in every run.
 std::vector<std::string> ShuffledNames(int count)

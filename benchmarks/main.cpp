@@ -10,8 +10,9 @@
 namespace {
 
 constexpr const char* usage =
-    "usage: tavo-bench [--folder DIR] [--repeats N] [--cpu] [WORD]\n"
+    "usage: tavo-bench [--folder DIR] [--repeats N] [--files N] [--cpu] [WORD]\n"
     "Measures the works whose name holds WORD. Files are made in DIR and removed.\n"
+    "Runs work on N files, or on 100,000; their names say the latter in any case.\n"
     "With --cpu the time is that of the processor, not that of the clock.\n";
 
 // At least 1, whatever the text says.
@@ -34,6 +35,8 @@ int main(int argc, char** argv)
             parent = argv[++at];
         else if (word == "--repeats" && at + 1 < argc)
             plan.Repeats = Number(argv[++at]);
+        else if (word == "--files" && at + 1 < argc)
+            plan.Files = Number(argv[++at]);
         else if (word == "--cpu")
             plan.By = tavo::bench::Clock::Cpu;
         else if (!word.starts_with('-') && plan.Only.empty())
@@ -50,6 +53,7 @@ int main(int argc, char** argv)
     std::free(whole);
     tavo::bench::Walks_Measure(plan);
     tavo::bench::Renames_Measure(plan);
+    tavo::bench::Changes_Measure(plan);
     tavo::bench::Lists_Measure(plan);
     tavo::bench::Folder_Remove(plan.Folder);
     tavo::bench::Print(plan);

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <malloc.h>
 
 namespace tavo::bench {
 
@@ -59,6 +60,12 @@ double Measure(const Plan& plan, const Contender& tavo)
         times.push_back(Turn(plan, tavo));
     times.erase(times.begin());
     return Median(times);
+}
+
+double HeapBytes()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
 void Note(const std::string& text)

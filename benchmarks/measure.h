@@ -24,6 +24,7 @@ enum class Clock { Wall, Cpu };
 struct Plan {
     std::string Folder; // for files, with its slash; is there and empty
     int Repeats = 5;
+    int Files = 100'000; // of runs over many files
     Clock By = Clock::Wall;
     std::string Only; // works whose name holds this; all when empty
     std::vector<Result> Results;
@@ -48,6 +49,9 @@ struct Pair {
 // as for the other; after a first turn that does not count.
 Pair Measure(const Plan& plan, const Contender& tavo, const Contender& limit);
 double Measure(const Plan& plan, const Contender& tavo);
+
+// What the program has taken of memory and not given back.
+double HeapBytes();
 
 // Tells what is going on, on standard error.
 void Note(const std::string& text);

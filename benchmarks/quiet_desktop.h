@@ -3,13 +3,22 @@
 #include "platform/desktop.h"
 #include "toolkit/form.h"
 
+#include <functional>
+
 namespace tavo::bench {
 
 // Nobody in front of a screen that shows nothing: what is measured on it is
 // the program alone.
 class QuietDesktop : public Desktop {
 public:
-    void DoEvents() override {}
+    // Called whenever a long work lets the person have a turn.
+    std::function<void()> EachTurn;
+
+    void DoEvents() override
+    {
+        if (EachTurn)
+            EachTurn();
+    }
     void StillAlive() override {}
     BoxAnswer MsgBox(const MessageBox& box) override { return box.Default; }
     void Show(Form& form) override

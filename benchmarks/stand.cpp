@@ -17,6 +17,7 @@ Stand::Stand(const std::string& folder)
 {
     P.Start();
     P.state.SupWarnRen = 1;
+    P.state.SupWarnUndo = 1;
     P.state.actClose = 1;
     P.state.RenMode = modeNameNumber;
 }
@@ -44,6 +45,27 @@ void Stand::Number(const std::string& nameTemplate, int start)
     Act_Run(P, actAll);
     const std::string errors(Renames.Column(P.state.colErrors).Caption);
     Require(errors == "Errors: " || errors == "Errors: 0", "renaming failed: " + errors);
+}
+
+void Stand::ChangedAre(int count)
+{
+    const std::string errors(Renames.Column(P.state.colErrors).Caption);
+    Require(errors == "Errors: " || errors == "Errors: 0", "rows failed: " + errors);
+    const std::string changed = P.main.lblActionInfo[1].Caption;
+    Require(changed == std::to_string(count), "only " + changed + " rows changed");
+}
+
+void Stand::Run(RenameMode mode)
+{
+    P.state.RenMode = mode;
+    Act_Run(P, actAll);
+    ChangedAre(Renames.Count());
+}
+
+void Stand::Undo()
+{
+    Act_Run(P, actUndo);
+    ChangedAre(Renames.Count());
 }
 
 std::string Row_Name(int number)

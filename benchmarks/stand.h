@@ -17,6 +17,9 @@ class Stand {
     PosixProfile profile_;
     QuietDesktop desktop_;
 
+    // The run must have changed so many rows, and failed at none.
+    void ChangedAre(int count);
+
 public:
     // `folder` is an empty one, with its slash.
     explicit Stand(const std::string& folder);
@@ -31,6 +34,12 @@ public:
     void Load(const std::string& folder);
     // A counter of six digits and the extension as it is.
     void Number(const std::string& nameTemplate, int start);
+    // Runs this mode, as its panel stands, or takes the last run back. All rows
+    // must change.
+    void Run(RenameMode mode);
+    void Undo();
+    // What is called at each turn of a run; nothing when empty.
+    void Watch(std::function<void()> eachTurn) { desktop_.EachTurn = std::move(eachTurn); }
     // `count` rows as a load would make them, without any files.
     void FillRows(int count);
 };

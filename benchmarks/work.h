@@ -7,6 +7,7 @@ namespace tavo::bench {
 // Each measures what the plan wants of its own works and adds to its results.
 void Walks_Measure(Plan& plan);   // into the selection list
 void Renames_Measure(Plan& plan); // on the disk
+void Changes_Measure(Plan& plan); // of tags, times and attributes, and back
 void Lists_Measure(Plan& plan);   // in memory
 
 } // namespace tavo::bench
