@@ -63,21 +63,20 @@ bool Attributes_Set(Files& files, const std::string& path, std::int16_t attribut
 std::string Row_Apply(Program& p, int row, std::int16_t mask, RowCounters& counters)
 {
     const std::string path = Row_Path(p, row);
-    if (!File_Exists(p.files, path)) {
-        ++counters.Errors;
-        return "Missing";
-    }
     const std::int16_t present = File_Attr_Get(p.files, path);
+    if (present == unreadable) {
+        const std::string reason = p.files.LastErrorText();
+        ++counters.Errors;
+        return File_Exists(p.files, path) ? reason : "Missing";
+    }
     if (present == mask) {
         ++counters.Unchanged;
         return {};
     }
-    if (present != unreadable) {
-        p.main.lsvRename.SetCell(row, p.state.colUndoName, Attr_Undo_Build(present));
-        if (Attributes_Set(p.files, path, mask)) {
-            ++counters.Done;
-            return {};
-        }
+    p.main.lsvRename.SetCell(row, p.state.colUndoName, Attr_Undo_Build(present));
+    if (Attributes_Set(p.files, path, mask)) {
+        ++counters.Done;
+        return {};
     }
     ++counters.Errors;
     return p.files.LastErrorText();
@@ -142,12 +141,12 @@ std::string Attr_Undo_Row(Program& p, int row, RowCounters& counters)
 {
     ListView& list = p.main.lsvRename;
     const std::string path = Row_Path(p, row);
-    if (!File_Exists(p.files, path)) {
+    const std::int16_t present = File_Attr_Get(p.files, path);
+    if (present == unreadable && !File_Exists(p.files, path)) {
         ++counters.Errors;
         return "Missing";
     }
     const std::int16_t wanted = Attr_Undo_Parse(list.Cell(row, p.state.colUndoName));
-    const std::int16_t present = File_Attr_Get(p.files, path);
     if (present == wanted) {
         ++counters.Unchanged;
         return {};

@@ -13,7 +13,7 @@ namespace {
 
 // What a run sets: the times of the boxes, and which of them are meant.
 struct TimeChange {
-    FileTimes Form;
+    FileStamps Form;
     bool Created, Modified, Accessed;
 };
 
@@ -21,18 +21,22 @@ struct TimeChange {
 TimeChange Change_Take(Program& p)
 {
     const SharedState& s = p.state;
-    return {DT_Form_Get(p), s.dtCreate == 1, s.dtMod == 1, s.dtAccess == 1};
+    return {Stamps_Of(p.files, DT_Form_Get(p)), s.dtCreate == 1, s.dtMod == 1, s.dtAccess == 1};
 }
 
-FileTimes Times_Changed(FileTimes times, const TimeChange& change)
+FileStamps Stamps_Changed(FileStamps stamps, const TimeChange& change)
 {
+    const auto take = [&](FileTime FileStamps::*moment, std::string FileTimes::*text) {
+        stamps.*moment = change.Form.*moment;
+        stamps.Texts.*text = change.Form.Texts.*text;
+    };
     if (change.Created)
-        times.Created = change.Form.Created;
+        take(&FileStamps::Created, &FileTimes::Created);
     if (change.Modified)
-        times.Modified = change.Form.Modified;
+        take(&FileStamps::Modified, &FileTimes::Modified);
     if (change.Accessed)
-        times.Accessed = change.Form.Accessed;
-    return times;
+        take(&FileStamps::Accessed, &FileTimes::Accessed);
+    return stamps;
 }
 
 std::string Row_Path(Program& p, int row)
@@ -60,12 +64,12 @@ std::string Row_Done(Program& p, int row, const FileTimes& before, RowCounters& 
 std::string Row_Apply(Program& p, int row, const TimeChange& change, RowCounters& counters)
 {
     const std::string path = Row_Path(p, row);
-    if (!File_Exists(p.files, path))
-        return Row_Fail(counters, "Missing");
     FileStamps before;
     const bool isKnown = File_Stamps_Get(p.files, path, before);
-    const FileTimes wanted = Times_Changed(before.Texts, change);
-    if (wanted == before.Texts) {
+    if (!isKnown && !File_Exists(p.files, path))
+        return Row_Fail(counters, "Missing");
+    const FileStamps wanted = Stamps_Changed(before, change);
+    if (wanted.Texts == before.Texts) {
         ++counters.Unchanged;
         return {};
     }
@@ -118,12 +122,13 @@ void DT_Run(Program& p, const RunRows& rows)
 std::string DT_Undo_Row(Program& p, int row, RowCounters& counters)
 {
     const std::string path = Row_Path(p, row);
-    if (!File_Exists(p.files, path))
-        return Row_Fail(counters, "Missing");
     FileStamps present;
+    const bool isKnown = File_Stamps_Get(p.files, path, present);
+    if (!isKnown && !File_Exists(p.files, path))
+        return Row_Fail(counters, "Missing");
     FileTimes wanted;
     DT_Undo_Parse(p.main.lsvRename.Cell(row, p.state.colUndoName), wanted);
-    if (!File_Stamps_Get(p.files, path, present) || !File_Times_Set(p.files, path, wanted, present))
+    if (!isKnown || !File_Times_Set(p.files, path, Stamps_Of(p.files, wanted), present))
         return Row_Fail(counters, "Unknown");
     return Row_Done(p, row, present.Texts, counters);
 }

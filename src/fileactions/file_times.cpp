@@ -12,27 +12,20 @@ FileTime WholeSeconds(FileTime time)
     return time.Ticks <= 0 ? FileTime{} : FileTime{time.Ticks - time.Ticks % ticksPerSecond};
 }
 
-FileTime Stamp_Wanted(Files& files, const std::string& wanted, const std::string& present,
-                      FileTime stamp)
+FileTime Stamp_Wanted(const std::string& text, FileTime stamp, const std::string& presentText,
+                      FileTime present)
 {
-    if (wanted == present)
-        return WholeSeconds(stamp);
-    return Local_To_FileTime(files, Time_Text_Parse(wanted));
+    return text == presentText ? WholeSeconds(present) : stamp;
 }
 
-bool Stamps_Write(Files& files, const std::string& path, const FileTimes& times,
+bool Stamps_Write(Files& files, const std::string& path, const FileStamps& wanted,
                   const FileStamps& present)
 {
-    const FileHandle file = files.OpenFile(path, OpenMode::Times);
-    if (file == noFile)
-        return false;
-    const FileTimes& now = present.Texts;
-    const FileTime created = Stamp_Wanted(files, times.Created, now.Created, present.Created);
-    const FileTime modified = Stamp_Wanted(files, times.Modified, now.Modified, present.Modified);
-    const FileTime accessed = Stamp_Wanted(files, times.Accessed, now.Accessed, present.Accessed);
-    const bool done = files.SetFileTime(file, created, accessed, modified);
-    files.CloseHandle(file);
-    return done;
+    const FileTimes &texts = wanted.Texts, &now = present.Texts;
+    return files.ChangeTimes(
+        path, Stamp_Wanted(texts.Created, wanted.Created, now.Created, present.Created),
+        Stamp_Wanted(texts.Accessed, wanted.Accessed, now.Accessed, present.Accessed),
+        Stamp_Wanted(texts.Modified, wanted.Modified, now.Modified, present.Modified));
 }
 
 } // namespace
@@ -54,7 +47,7 @@ FileTime Local_To_FileTime(Files& files, const SystemTime& time)
 bool File_Stamps_Get(Files& files, const std::string& path, FileStamps& stamps)
 {
     stamps = {};
-    const auto data = files.Stat(path);
+    const auto data = files.StatTimes(path);
     if (!data)
         return false;
     const auto text = [&files](FileTime time) {
@@ -74,21 +67,30 @@ FileTimes File_Times_Get(Files& files, const std::string& path)
     return stamps.Texts;
 }
 
+FileStamps Stamps_Of(Files& files, const FileTimes& texts)
+{
+    const auto moment = [&files](const std::string& text) {
+        return Local_To_FileTime(files, Time_Text_Parse(text));
+    };
+    return {moment(texts.Created), moment(texts.Modified), moment(texts.Accessed), texts};
+}
+
 bool File_Times_Set(Files& files, const std::string& path, const FileTimes& times)
 {
     FileStamps present;
     File_Stamps_Get(files, path, present);
-    return File_Times_Set(files, path, times, present);
+    return File_Times_Set(files, path, Stamps_Of(files, times), present);
 }
 
-bool File_Times_Set(Files& files, const std::string& path, const FileTimes& times,
+bool File_Times_Set(Files& files, const std::string& path, const FileStamps& wanted,
                     const FileStamps& present)
 {
     if (!files.Rules().ReadOnlyKeepsTimes)
-        return Stamps_Write(files, path, times, present);
+        return Stamps_Write(files, path, wanted, present);
     const auto attributes = files.GetFileAttributesA(path);
-    files.SetFileAttributesA(path, 0);
-    const bool done = Stamps_Write(files, path, times, present);
+    if (attributes) // those that cannot be read could not be brought back
+        files.SetFileAttributesA(path, 0);
+    const bool done = Stamps_Write(files, path, wanted, present);
     if (attributes)
         files.SetFileAttributesA(path, *attributes);
     return done;

@@ -19,6 +19,9 @@ struct FileStamps {
     FileTimes Texts;
 };
 
+// The moments that these texts tell, 0 for what is no time.
+FileStamps Stamps_Of(Files& files, const FileTimes& texts);
+
 // False when the file cannot be read; all is empty then.
 bool File_Stamps_Get(Files& files, const std::string& path, FileStamps& stamps);
 // The texts alone, empty when the file cannot be read.
@@ -29,8 +32,8 @@ FileTimes File_Times_Get(Files& files, const std::string& path);
 // goes. A text that is no time leaves its stamp alone. False when the file
 // cannot be opened or the times not be set; attributes come back in any case.
 bool File_Times_Set(Files& files, const std::string& path, const FileTimes& times);
-// The same with the stamps that the file is known to have.
-bool File_Times_Set(Files& files, const std::string& path, const FileTimes& times,
+// The same with the stamps that the file was just read to have.
+bool File_Times_Set(Files& files, const std::string& path, const FileStamps& wanted,
                     const FileStamps& present);
 
 } // namespace tavo

@@ -1,5 +1,7 @@
 #include "fileactions/mp3_file.h"
 
+#include <utility>
+
 namespace tavo {
 
 namespace {
@@ -10,13 +12,15 @@ std::uint64_t Tag_Offset(std::uint64_t length)
     return length < mp3TagSize ? 0 : length - mp3TagSize;
 }
 
-void Tag_ReadFrom(Files& files, FileHandle file, MP3Tag& tag)
+// Gives the file's length.
+std::optional<std::uint64_t> Tag_ReadFrom(Files& files, FileHandle file, MP3Tag& tag)
 {
     const auto length = files.FileLength(file);
     if (!length)
-        return;
+        return length;
     if (const auto bytes = files.ReadBytes(file, Tag_Offset(*length), mp3TagSize))
         tag = MP3_Tag_Decode(*bytes);
+    return length;
 }
 
 } // namespace
@@ -35,17 +39,21 @@ MP3File::~MP3File()
         files_.CloseHandle(handle_);
 }
 
-void MP3File::Read(MP3Tag& tag) const
+void MP3File::Read(MP3Tag& tag)
 {
     if (IsOpen())
-        Tag_ReadFrom(files_, handle_, tag);
+        length_ = Tag_ReadFrom(files_, handle_, tag);
 }
 
-bool MP3File::Write(const MP3Tag& tag, bool append) const
+// A new tag replaces the one that was read, where that was; but nothing that
+// came behind the end meanwhile.
+bool MP3File::Write(const MP3Tag& tag, bool append)
 {
     if (!canWrite_)
         return false;
-    const auto length = files_.FileLength(handle_);
+    auto length = std::exchange(length_, std::nullopt);
+    if (!length || append)
+        length = files_.FileLength(handle_);
     return length
            && files_.WriteBytes(handle_, append ? *length : Tag_Offset(*length),
                                 MP3_Tag_Encode(tag));

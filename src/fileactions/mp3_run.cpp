@@ -73,8 +73,7 @@ std::string Row_Path(Program& p, int row)
     return path;
 }
 
-void MP3_Tag_Write(Program& p, const MP3File& file, const MP3Tag& tag, RowCounters& counters,
-                   bool append)
+void MP3_Tag_Write(Program& p, MP3File& file, const MP3Tag& tag, RowCounters& counters, bool append)
 {
     if (file.Write(tag, append)) {
         ++counters.Done;
@@ -84,7 +83,7 @@ void MP3_Tag_Write(Program& p, const MP3File& file, const MP3Tag& tag, RowCounte
     ++counters.Errors;
 }
 
-std::string_view Row_Write(Program& p, int row, const MP3File& file, const MP3Tag& old,
+std::string_view Row_Write(Program& p, int row, MP3File& file, const MP3Tag& old,
                            const MP3Tag& wanted, RowCounters& counters)
 {
     const std::int32_t errorsBefore = counters.Errors;
@@ -107,7 +106,7 @@ std::string_view Row_Update(Program& p, int row, const TagInput& input, RowCount
         ++counters.Errors;
         return File_Exists(p.files, path) ? "No MP3 Ext" : "Missing";
     }
-    const MP3File file(p.files, path);
+    MP3File file(p.files, path);
     if (!file.IsOpen() && !File_Exists(p.files, path)) {
         ++counters.Errors;
         return "Missing";
@@ -146,7 +145,7 @@ void MP3_Run(Program& p, const RunRows& rows)
 std::string MP3_Undo_Row(Program& p, int row, RowCounters& counters)
 {
     const std::string path = Row_Path(p, row);
-    const MP3File file(p.files, path);
+    MP3File file(p.files, path);
     if (!file.IsOpen() && !File_Exists(p.files, path)) {
         ++counters.Errors;
         return "Missing";

@@ -4,6 +4,7 @@
 #include "toolkit/code_page.h"
 #include "toolkit/numbers.h"
 #include "toolkit/text.h"
+#include "toolkit/utf8.h"
 
 #include <algorithm>
 
@@ -28,13 +29,28 @@ constexpr std::size_t trackOffset = 126, genreOffset = 127;
 
 void Field_Append(std::string& record, std::string_view text)
 {
-    record += Right("0" + IntToText(Len(text)), 2);
+    const int length = Len(text);
+    record += static_cast<char>('0' + length / 10 % 10);
+    record += static_cast<char>('0' + length % 10);
     record += text;
 }
 
 std::uint8_t Byte_Of(std::string_view text)
 {
     return static_cast<std::uint8_t>(ParseByte(text).value_or(0));
+}
+
+// A text is padded before it is turned into bytes: two of those might read as
+// one character. Where each byte is one, nothing has to be turned.
+void Field_Encode(std::string& bytes, std::string_view text, std::int16_t size)
+{
+    if (!IsAscii(text)) {
+        bytes += Utf8ToCp1252(Str_PadNul(text, size));
+        return;
+    }
+    const std::size_t end = bytes.size() + static_cast<std::size_t>(size);
+    bytes += text.substr(0, static_cast<std::size_t>(size));
+    bytes.resize(end);
 }
 
 } // namespace
@@ -58,22 +74,21 @@ MP3Tag MP3_Tag_Decode(std::string_view bytes)
     std::string whole(bytes.substr(0, mp3TagSize));
     whole.resize(mp3TagSize, '\0');
     for (const TextField& field : textFields) {
-        std::string text = whole.substr(field.Offset, static_cast<std::size_t>(field.Size));
-        tag.*field.Text = Cp1252ToUtf8(Str_CutAtNul(text));
+        const std::string_view text(whole.data() + field.Offset,
+                                    static_cast<std::size_t>(field.Size));
+        tag.*field.Text = Cp1252ToUtf8(text.substr(0, text.find('\0')));
     }
     tag.Track = static_cast<std::uint8_t>(whole[trackOffset]);
     tag.Genre = static_cast<std::uint8_t>(whole[genreOffset]);
     return tag;
 }
 
-// A text is padded before it is turned into bytes: two of those might read as
-// one character.
 std::string MP3_Tag_Encode(const MP3Tag& tag)
 {
     std::string bytes(mp3Present);
     bytes.reserve(mp3TagSize);
     for (const TextField& field : textFields)
-        bytes += Utf8ToCp1252(Str_PadNul(tag.*field.Text, field.Size));
+        Field_Encode(bytes, tag.*field.Text, field.Size);
     bytes += static_cast<char>(tag.Track);
     bytes += static_cast<char>(tag.Genre);
     return bytes;

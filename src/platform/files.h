@@ -176,6 +176,20 @@ public:
     // alone. False when one that was to change could not be set.
     virtual bool SetFileTime(FileHandle file, FileTime created, FileTime accessed,
                              FileTime written) = 0;
+    // Reading the times of one entry, and then setting them: as Stat, of which
+    // only the times are given, and as OpenFile, SetFileTime and CloseHandle. A
+    // disk that can do so by less does it.
+    virtual std::optional<FindData> StatTimes(const std::string& path) { return Stat(path); }
+    virtual bool ChangeTimes(const std::string& path, FileTime created, FileTime accessed,
+                             FileTime written)
+    {
+        const FileHandle file = OpenFile(path, OpenMode::Times);
+        if (file == noFile)
+            return false;
+        const bool done = SetFileTime(file, created, accessed, written);
+        CloseHandle(file);
+        return done;
+    }
     // In bytes; none when it cannot be told.
     virtual std::optional<std::uint64_t> FileLength(FileHandle file) = 0;
     // `count` bytes from `offset` on, or as many as there are.

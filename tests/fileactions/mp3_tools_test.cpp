@@ -207,7 +207,7 @@ TEST(Mp3Journey, File_that_no_one_may_write_is_left_as_it_is)
     folder.SetMode("", 0755);
     EXPECT_EQ(AsPlainUser([&] {
                   PosixFiles files;
-                  const MP3File file(files, folder.Path("a.mp3"));
+                  MP3File file(files, folder.Path("a.mp3"));
                   MP3Tag tag;
                   file.Read(tag);
                   return (tag.Title == "t" ? 1 : 0) + (file.Write({}, false) ? 2 : 0);

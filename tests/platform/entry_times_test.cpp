@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sys/wait.h>
 
 namespace tavo {
@@ -30,6 +31,17 @@ bool SetTimes(PosixFiles& files, const std::string& path, const EntryTimes& time
     files.CloseHandle(file);
     return done && code == diskOk;
 }
+
+// The same of an entry that is read before, which then needs not be opened.
+bool ChangeTimes(PosixFiles& files, const std::string& path, const EntryTimes& times)
+{
+    const bool done = files.StatTimes(path)
+                      && files.ChangeTimes(path, times.Created, times.Accessed, times.Written);
+    return done && files.LastError() == diskOk;
+}
+
+using Setter = bool (*)(PosixFiles& files, const std::string& path, const EntryTimes& times);
+constexpr Setter setters[] = {SetTimes, ChangeTimes};
 
 FileTime WholeSecond(FileTime time)
 {
@@ -220,12 +232,15 @@ TEST(EntryTimes, The_owner_needs_no_right_to_the_content)
         GTEST_SKIP() << noTexts;
     ground.Folder.MakeFolder("open");
     ground.Folder.SetMode("open", 0777);
-    for (const unsigned mode : {0644u, 0444u, 0400u, 0200u, 0000u}) {
-        const std::string name = "open/" + std::to_string(mode);
+    for (unsigned number = 0; number < 10; ++number) {
+        constexpr unsigned modes[] = {0644, 0444, 0400, 0200, 0000};
+        const unsigned mode = modes[number / 2];
+        const Setter setter = setters[number % 2];
+        const std::string name = "open/" + std::to_string(number);
         const int code = AsPlainUser([&] {
             ground.Folder.Write(name);
             ground.Folder.SetMode(name, mode);
-            return SetTimes(ground.Files, ground.Folder.Path(name), {day1, day2, day3})
+            return setter(ground.Files, ground.Folder.Path(name), {day1, day2, day3})
                        ? 0
                        : ground.Files.LastError() % 256 + 1;
         });
@@ -334,46 +349,123 @@ const ChangeRow changes[] = {
     {"Created alone", 0644, none, {day2, none, none}},
 };
 
+// Each call of one change in turn fails with this error.
+void Fail_EachCall(const ChangeRow& row, Setter setter, int error)
+{
+    for (std::size_t failing = 1;; ++failing) {
+        EntryGround ground("times");
+        ground.Folder.Write("a", "content");
+        const std::string path = ground.Folder.Path("a");
+        ASSERT_TRUE(SetTimes(ground.Files, path, {row.Before, day1, day1}));
+        ground.Folder.SetMode("a", row.Mode);
+        const std::string before = Shown(ground, "a");
+        auto& faults = ground.Entries->Faults;
+        faults.Calls.clear();
+        faults.FailAt = failing;
+        faults.Error = error;
+        const bool done = setter(ground.Files, path, row.Wanted);
+        faults.FailAt = 0;
+        EXPECT_EQ(ground.Mode("a"), row.Mode) << row.What;
+        if (!done) {
+            EXPECT_EQ(Shown(ground, "a"), before)
+                << row.What << ", " << error << " at call " << failing;
+        } else if (row.Wanted.Created != none) {
+            EXPECT_EQ(ground.Files.Stat(path)->Created, row.Wanted.Created) << row.What;
+        }
+        if (failing > faults.Calls.size()) {
+            EXPECT_TRUE(done) << row.What;
+            EXPECT_GE(failing, 3u) << row.What;
+            return;
+        }
+    }
+}
+
 TEST(EntryTimes, A_call_that_fails_leaves_all_as_they_were)
 {
+    if (!EntryGround("times").KeepsTexts())
+        GTEST_SKIP() << noTexts;
+    for (const ChangeRow& row : changes)
+        for (const Setter setter : setters)
+            for (const int error : diskFaults)
+                Fail_EachCall(row, setter, error);
+}
+
+TEST(EntryTimes, What_was_just_read_is_changed_without_opening)
+{
     for (const ChangeRow& row : changes) {
-        for (const int error : diskFaults) {
-            for (std::size_t failing = 1;; ++failing) {
-                EntryGround ground("times");
-                if (!ground.KeepsTexts())
-                    GTEST_SKIP() << noTexts;
-                ground.Folder.Write("a", "content");
-                const std::string path = ground.Folder.Path("a");
-                ASSERT_TRUE(SetTimes(ground.Files, path, {row.Before, day1, day1}));
-                ground.Folder.SetMode("a", row.Mode);
-                const std::string before = Shown(ground, "a");
-                auto& faults = ground.Entries->Faults;
-                faults.Calls.clear();
-                faults.FailAt = failing;
-                faults.Error = error;
-                const bool done = SetTimes(ground.Files, path, row.Wanted);
-                faults.FailAt = 0;
-                EXPECT_EQ(ground.Mode("a"), row.Mode) << row.What;
-                if (!done) {
-                    EXPECT_EQ(Shown(ground, "a"), before)
-                        << row.What << ", " << error << " at call " << failing;
-                } else if (row.Wanted.Created != none) {
-                    EXPECT_EQ(ground.Files.Stat(path)->Created, row.Wanted.Created) << row.What;
-                }
-                if (failing > faults.Calls.size()) {
-                    EXPECT_TRUE(done) << row.What;
-                    EXPECT_GE(failing, 3u) << row.What;
-                    break;
-                }
-            }
+        EntryGround ground("times");
+        if (!ground.KeepsTexts())
+            GTEST_SKIP() << noTexts;
+        for (const std::string name : {"a", "b"}) {
+            ground.Folder.Write(name);
+            ASSERT_TRUE(SetTimes(ground.Files, ground.Folder.Path(name), {row.Before, day1, day1}));
         }
+        auto& calls = ground.Entries->Faults.Calls;
+        calls.clear();
+        EXPECT_TRUE(ChangeTimes(ground.Files, ground.Folder.Path("a"), row.Wanted)) << row.What;
+        EXPECT_EQ(std::ranges::count(calls, "Open"), 0) << row.What;
+        EXPECT_LE(calls.size(), 4u) << row.What;
+        EXPECT_TRUE(SetTimes(ground.Files, ground.Folder.Path("b"), row.Wanted));
+        const auto a = *ground.Files.Stat(ground.Folder.Path("a"));
+        const auto b = *ground.Files.Stat(ground.Folder.Path("b"));
+        if (row.Wanted.Created != none || row.Before != none) {
+            EXPECT_EQ(a.Created, b.Created) << row.What;
+        }
+        EXPECT_EQ(a.Written, b.Written) << row.What;
+        EXPECT_EQ(ground.Text("a", textName), ground.Text("b", textName)) << row.What;
+    }
+}
+
+TEST(EntryTimes, What_was_read_of_another_entry_does_not_count)
+{
+    EntryGround ground("times");
+    if (!ground.KeepsTexts())
+        GTEST_SKIP() << noTexts;
+    ground.Folder.Write("a");
+    ground.Folder.Write("b");
+    const std::string a = ground.Folder.Path("a"), b = ground.Folder.Path("b");
+    ASSERT_TRUE(SetTimes(ground.Files, a, {day1, none, none}));
+    ASSERT_TRUE(ground.Files.StatTimes(b));
+    // By what "b" has, the day would have to be stored anew and its second not.
+    EXPECT_TRUE(
+        ground.Files.ChangeTimes(a, WholeSecond(ground.Files.Stat(b)->Created), none, none));
+    EXPECT_NE(ground.Files.Stat(a)->Created, day1);
+    EXPECT_FALSE(ground.Files.ChangeTimes(ground.Folder.Path("missing"), day1, day1, day1));
+    EXPECT_EQ(ground.Files.LastError(), diskMissing);
+}
+
+TEST(EntryTimes, Times_are_read_as_with_all_else)
+{
+    EntryGround ground("times");
+    ground.Folder.Write("file");
+    ground.Folder.Write("set");
+    ground.Folder.MakeFolder("folder");
+    ground.Folder.MakeLink("link", "set");
+    ground.Folder.MakeLink("to nowhere", "missing");
+    if (ground.KeepsTexts()) {
+        ASSERT_TRUE(SetTimes(ground.Files, ground.Folder.Path("set"), {day1, day2, day3}));
+    }
+    for (const std::string name : {"file", "set", "folder", "link", "to nowhere"}) {
+        ground.Files.Stat(ground.Folder.Path(name)); // follows a link, which is an access to it
+        const auto all = ground.Files.Stat(ground.Folder.Path(name));
+        const auto times = ground.Files.StatTimes(ground.Folder.Path(name));
+        ASSERT_TRUE(times) << name;
+        EXPECT_EQ(Shown(*times), Shown(*all)) << name;
+    }
+    for (const std::string name : {"missing", "missing/a", "file/b"}) {
+        EXPECT_FALSE(ground.Files.StatTimes(ground.Folder.Path(name))) << name;
+        const int code = ground.Files.LastError();
+        EXPECT_FALSE(ground.Files.Stat(ground.Folder.Path(name))) << name;
+        EXPECT_EQ(code, ground.Files.LastError()) << name;
     }
 }
 
 TEST(EntryTimes, A_process_that_ends_leaves_old_or_new_ones)
 {
     for (const ChangeRow& row : changes) {
-        for (std::size_t call = 1; call < 7; ++call) {
+        for (std::size_t step = 2; step < 14; ++step) {
+            const std::size_t call = step / 2;
+            const Setter setter = setters[step % 2];
             EntryGround ground("times");
             if (!ground.KeepsTexts())
                 GTEST_SKIP() << noTexts;
@@ -386,7 +478,7 @@ TEST(EntryTimes, A_process_that_ends_leaves_old_or_new_ones)
             if (child == 0) {
                 ground.Entries->Faults.Calls.clear();
                 ground.Entries->Faults.KillBehind = call;
-                SetTimes(ground.Files, path, row.Wanted);
+                setter(ground.Files, path, row.Wanted);
                 ::_exit(0);
             }
             ASSERT_EQ(::waitpid(child, nullptr, 0), child);

@@ -142,6 +142,54 @@ TEST(OpenFiles, A_call_that_fails_leaves_the_bytes_as_they_were)
     }
 }
 
+TEST(OpenFiles, Bytes_that_were_read_come_back_when_writing_fails)
+{
+    constexpr std::string_view whole = "0123456789", bytes = "abcd";
+    for (std::uint64_t offset = 0; offset <= whole.size(); ++offset) {
+        for (const std::size_t most : {std::string::npos, std::size_t{3}}) {
+            for (std::size_t failing = 1;; ++failing) {
+                EntryGround ground("open");
+                ground.Contents->MostBytes = most;
+                ground.Folder.Write("a", std::string(whole));
+                const FileHandle file = Open(ground, "a", OpenMode::ReadWrite);
+                ASSERT_TRUE(ground.Files.ReadBytes(file, offset, bytes.size()));
+                auto& faults = ground.Contents->Faults;
+                const std::size_t before = faults.Calls.size();
+                faults.FailAt = before + failing;
+                faults.Error = ENOSPC;
+                const bool done = ground.Files.WriteBytes(file, offset, bytes);
+                ground.Files.CloseHandle(file);
+                std::string wanted(whole);
+                if (done)
+                    wanted.replace(offset, bytes.size(), bytes);
+                EXPECT_EQ(ground.Folder.Read("a"), wanted) << offset << ' ' << failing;
+                if (failing > faults.Calls.size() - before) {
+                    EXPECT_TRUE(done) << offset;
+                    break;
+                }
+                EXPECT_FALSE(done) << offset << ' ' << failing;
+            }
+        }
+    }
+}
+
+TEST(OpenFiles, What_was_written_is_no_longer_what_was_read)
+{
+    EntryGround ground("open");
+    ground.Folder.Write("a", "0123456789");
+    const FileHandle file = Open(ground, "a", OpenMode::ReadWrite);
+    EXPECT_EQ(ground.Files.FileLength(file), 10u);
+    EXPECT_EQ(ground.Files.ReadBytes(file, 8, 2), "89");
+    EXPECT_TRUE(ground.Files.WriteBytes(file, 8, "xy"));
+    EXPECT_TRUE(ground.Files.WriteBytes(file, 10, "more"));
+    EXPECT_EQ(ground.Files.FileLength(file), 14u);
+    ground.Contents->Faults.FailAt = ground.Contents->Faults.Calls.size() + 3;
+    ground.Contents->Faults.Error = EIO;
+    ground.Contents->MostBytes = 2;
+    EXPECT_FALSE(ground.Files.WriteBytes(file, 8, "zz"));
+    EXPECT_EQ(ground.Folder.Read("a"), "01234567xymore");
+}
+
 TEST(OpenFiles, A_read_that_fails_gives_nothing)
 {
     for (std::size_t failing = 1; failing < 6; ++failing) {

@@ -19,12 +19,18 @@ public:
     std::optional<std::uint32_t> Mask; // instead of the user's own
 
     int Open(const std::string& path, Descriptor& entry) override;
+    int OpenFile(const std::string& path, Descriptor& entry) override;
     int Look(const Descriptor& entry, State& state) override;
     int GetText(const Descriptor& entry, const char* name, std::string& bytes) override;
     int SetText(const Descriptor& entry, const char* name, const std::string& bytes) override;
     int RemoveText(const Descriptor& entry, const char* name) override;
     int SetMode(const Descriptor& entry, std::uint32_t mode) override;
     int SetTimes(const Descriptor& entry, FileTime accessed, FileTime written) override;
+    int Look(const std::string& path, State& state) override;
+    int GetText(const std::string& path, const char* name, std::string& bytes) override;
+    int SetText(const std::string& path, const char* name, const std::string& bytes) override;
+    int RemoveText(const std::string& path, const char* name) override;
+    int SetTimes(const std::string& path, FileTime accessed, FileTime written) override;
     int GetFat(const Descriptor& entry, std::uint32_t& attributes) override;
     int SetFat(const Descriptor& entry, std::uint32_t attributes) override;
     std::uint32_t UserMask() override;

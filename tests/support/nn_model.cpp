@@ -244,9 +244,10 @@ void Run::RowAgainst(int blocker, int& i, NewName& made)
 bool Run::MoveAside(int blocker, NewName& made)
 {
     const std::string orig = At(blocker).Name;
+    const std::string undo = At(blocker).UndoName.empty() ? orig : At(blocker).UndoName;
     std::string temp = "0" + CutForTemp(orig);
     for (int k = 1; k <= 9; ++k) {
-        Apply(orig, temp, made.Ext, orig, blocker);
+        Apply(orig, temp, made.Ext, undo, blocker);
         if (!failed_)
             break;
         --out_.Errors;

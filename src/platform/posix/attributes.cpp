@@ -73,12 +73,20 @@ int SetFatAttributes(EntryDisk& disk, const Descriptor& entry, std::uint32_t now
 int SetTextAndMode(EntryDisk& disk, const Descriptor& entry, const State& before,
                    const std::optional<std::string>& oldText, std::uint32_t wanted)
 {
-    int error = 0;
+    const bool readOnly = (wanted & attrReadOnly) != 0;
     const bool isOther = !Says(oldText, wanted);
-    if (isOther)
-        error = StoreText(disk, entry, before, textName, TextOf(wanted));
-    if (error == 0)
-        error = SetReadOnly(disk, entry, before, (wanted & attrReadOnly) != 0);
+    // In the order that needs the mode loosened least.
+    const bool modeFirst = !readOnly && IsReadOnly(before.Mode);
+    State now = before;
+    int error = 0;
+    if (modeFirst) {
+        error = SetReadOnly(disk, entry, before, readOnly);
+        now.Mode = ModeFor(before.Mode, readOnly, disk);
+    }
+    if (error == 0 && isOther)
+        error = StoreText(disk, entry, now, textName, TextOf(wanted));
+    if (error == 0 && !modeFirst)
+        error = SetReadOnly(disk, entry, before, readOnly);
     if (error == 0)
         return 0;
     // The mode first: the new one may forbid the text.
@@ -107,11 +115,11 @@ int AddStoredAttributes(EntryDisk& disk, const std::string& path, std::uint32_t&
     return error == ENOTSUP ? 0 : error;
 }
 
-int SetAttributes(EntryDisk& disk, const std::string& path, std::uint32_t wanted)
+int SetAttributes(EntryDisk& disk, const std::string& path, std::uint32_t wanted, bool isFile)
 {
     Descriptor entry;
     State before;
-    if (const int error = disk.Open(path, entry))
+    if (const int error = isFile ? disk.OpenFile(path, entry) : disk.Open(path, entry))
         return error;
     if (const int error = disk.Look(entry, before))
         return error;

@@ -27,6 +27,9 @@ int AddStoredAttributes(EntryDisk& disk, const std::string& path, std::uint32_t&
 // When a call fails, what it did before is undone. Ended from outside between
 // two calls it may leave one of the attributes changed and not yet the other,
 // or an entry that the owner may write.
-int SetAttributes(EntryDisk& disk, const std::string& path, std::uint32_t wanted);
+//
+// `isFile` tells that a file has just been seen there, which saves looking.
+int SetAttributes(EntryDisk& disk, const std::string& path, std::uint32_t wanted,
+                  bool isFile = false);
 
 } // namespace tavo

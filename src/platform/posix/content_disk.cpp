@@ -41,7 +41,7 @@ int WriteAll(ContentDisk& disk, const Descriptor& file, std::uint64_t offset,
 } // namespace
 
 int OpenContent(ContentDisk& disk, const std::string& path, ContentDisk::Access access,
-                Descriptor& file)
+                Descriptor& file, std::uint64_t& length)
 {
     // Looked at before it is opened, since to open a device may do something,
     // and behind that, since another entry may have taken the name.
@@ -55,6 +55,7 @@ int OpenContent(ContentDisk& disk, const std::string& path, ContentDisk::Access 
         error = disk.Look(file, state);
     if (error == 0)
         error = ErrorOfKind(state, access);
+    length = state.Length;
     if (error != 0)
         file.Close();
     return error;
@@ -64,6 +65,12 @@ int ReadContent(ContentDisk& disk, const Descriptor& file, std::uint64_t offset,
                 std::string& bytes)
 {
     bytes.clear();
+    // Most reads are done in one.
+    if (count <= blockBytes && offset < mostBytes)
+        if (const int error = disk.Read(file, offset, count, bytes))
+            return error;
+    if (bytes.size() == count)
+        return 0;
     std::string block;
     while (bytes.size() < count && offset + bytes.size() < mostBytes) {
         const std::size_t wanted = std::min(count - bytes.size(), blockBytes);
@@ -77,10 +84,12 @@ int ReadContent(ContentDisk& disk, const Descriptor& file, std::uint64_t offset,
 }
 
 int WriteContent(ContentDisk& disk, const Descriptor& file, std::uint64_t offset,
-                 std::string_view bytes)
+                 std::string_view bytes, const KnownBytes& known)
 {
+    const bool isKnown = known.Offset == offset && known.Bytes.size() == bytes.size();
     ContentDisk::State before;
-    if (const int error = disk.Look(file, before))
+    before.Length = offset + known.Bytes.size();
+    if (const int error = isKnown ? 0 : disk.Look(file, before))
         return error;
     if (offset > before.Length)
         return EINVAL;
@@ -88,8 +97,9 @@ int WriteContent(ContentDisk& disk, const Descriptor& file, std::uint64_t offset
         return EFBIG;
     const std::uint64_t end = offset + bytes.size();
     const std::uint64_t replaced = std::min(end, before.Length) - offset;
-    std::string old;
-    if (const int error = ReadContent(disk, file, offset, static_cast<std::size_t>(replaced), old))
+    std::string old = isKnown ? known.Bytes : std::string();
+    const std::size_t unknown = static_cast<std::size_t>(replaced) - old.size();
+    if (const int error = unknown == 0 ? 0 : ReadContent(disk, file, offset, unknown, old))
         return error;
     if (old.size() != replaced)
         return EIO;

@@ -41,16 +41,24 @@ std::unique_ptr<ContentDisk> SystemContentDisk();
 // bytes are those of what it leads to. A file that nobody may write is not
 // opened for writing for anyone. Gives 0 or the system's error number: EISDIR
 // for a folder, EINVAL for what else is no regular file, and neither is opened.
+// `length` is what the file has then.
 int OpenContent(ContentDisk& disk, const std::string& path, ContentDisk::Access access,
-                Descriptor& file);
+                Descriptor& file, std::uint64_t& length);
 
 // `count` bytes from `offset` on, or as many as there are.
 int ReadContent(ContentDisk& disk, const Descriptor& file, std::uint64_t offset, std::size_t count,
                 std::string& bytes);
 
+// A part of a file as it was last read.
+struct KnownBytes {
+    std::uint64_t Offset = 0;
+    std::string Bytes;
+};
+
 // Writes all of the bytes; EINVAL when `offset` lies behind the end. After an
-// error the old bytes and the old length are put back.
+// error the old bytes and the old length are put back; they are not read again
+// where they are known.
 int WriteContent(ContentDisk& disk, const Descriptor& file, std::uint64_t offset,
-                 std::string_view bytes);
+                 std::string_view bytes, const KnownBytes& known = {});
 
 } // namespace tavo

@@ -74,13 +74,15 @@ int ReadAll(int file, std::uint64_t limit, std::uint64_t expected, std::string& 
 
 } // namespace
 
-int ReadEntry(int folder, const char* name, FindData& found)
+int ReadEntry(int folder, const char* name, FindData& found, bool* isFile)
 {
     constexpr int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
     constexpr unsigned anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
     struct statx data;
     if (WithoutInterrupts([&] { return statx(folder, name, flags, entryMask, &data); }) != 0)
         return errno;
+    if (isFile)
+        *isFile = S_ISREG(data.stx_mode);
     found.Attributes = 0;
     if ((data.stx_mode & anyWrite) == 0)
         found.Attributes = attrReadOnly;

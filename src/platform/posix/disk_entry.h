@@ -14,7 +14,8 @@ namespace tavo {
 // system's error number.
 //
 // Archive, Hidden and System are left out: they would cost a call a file.
-int ReadEntry(int folder, const char* name, FindData& found);
+// `isFile` tells whether it is a regular file.
+int ReadEntry(int folder, const char* name, FindData& found, bool* isFile = nullptr);
 
 // Archive, Hidden and System as the entry's extended attribute
 // `user.DOSATTRIB` keeps them: the text `0x` and hexadecimal digits, to which

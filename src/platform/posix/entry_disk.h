@@ -11,7 +11,7 @@
 namespace tavo {
 
 // What attributes and times ask of the system. An entry is opened as itself, a
-// link too, and without any right to its content; all other calls go to the
+// link too, and needs no right to its content; calls with a descriptor go to the
 // entry that was opened, whatever has its name by then. Every call gives 0 or
 // the system's error number.
 class EntryDisk {
@@ -20,13 +20,15 @@ public:
     struct State {
         Kind What = Kind::File;
         std::uint32_t Mode = 0; // the bits that chmod sets
-        FileTime Written;
+        FileTime Accessed, Written;
         std::optional<FileTime> Birth; // none on disks that keep none
     };
 
     virtual ~EntryDisk() = default;
 
     virtual int Open(const std::string& path, Descriptor& entry) = 0;
+    // The same for what was just seen to be a file.
+    virtual int OpenFile(const std::string& path, Descriptor& entry) = 0;
     virtual int Look(const Descriptor& entry, State& state) = 0;
 
     // Extended attributes, by their full names. ENODATA where there is none of
@@ -42,6 +44,14 @@ public:
     // The attribute byte of a FAT file system; ENOTSUP on any other.
     virtual int GetFat(const Descriptor& entry, std::uint32_t& attributes) = 0;
     virtual int SetFat(const Descriptor& entry, std::uint32_t attributes) = 0;
+
+    // The same for whatever has this name at the time, without opening it; a
+    // link is not followed.
+    virtual int Look(const std::string& path, State& state) = 0;
+    virtual int GetText(const std::string& path, const char* name, std::string& bytes) = 0;
+    virtual int SetText(const std::string& path, const char* name, const std::string& bytes) = 0;
+    virtual int RemoveText(const std::string& path, const char* name) = 0;
+    virtual int SetTimes(const std::string& path, FileTime accessed, FileTime written) = 0;
 
     // The rights that new files of this user do not get.
     virtual std::uint32_t UserMask() = 0;

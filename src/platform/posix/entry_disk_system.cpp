@@ -29,8 +29,8 @@ int ErrorOf(Call call)
     return WithoutInterrupts(call) == -1 ? errno : 0;
 }
 
-// Another name of the open entry, for calls that take none that was opened for
-// its name alone. It leads to that very entry and to nothing behind it.
+// Another name of the open entry, for calls that refuse one that was opened for
+// its name alone with EBADF. It leads to that very entry and to nothing behind it.
 class OpenName {
 public:
     explicit OpenName(const Descriptor& entry)
@@ -100,68 +100,131 @@ int AskFat(const Descriptor& entry, unsigned long request, Value* value)
     return error == ENOTTY ? ENOTSUP : error;
 }
 
+// To open a device to be read may do something, and a folder may be mounted
+// by it.
+bool IsFile(const std::string& path)
+{
+    constexpr int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
+    struct statx data;
+    return ::statx(AT_FDCWD, path.c_str(), flags, STATX_TYPE, &data) == 0 && S_ISREG(data.stx_mode);
+}
+
+// Makes the call with the entry itself, or with its other name where it was
+// opened for its name alone.
+template <typename ByNumber, typename ByName>
+ssize_t Ask(const Descriptor& entry, ByNumber byNumber, ByName byName)
+{
+    const ssize_t result = byNumber(entry.Number());
+    return result == -1 && errno == EBADF ? byName(OpenName(entry).Text()) : result;
+}
+
+template <typename Read>
+int ReadText(std::string& bytes, Read read)
+{
+    std::array<char, 256> some;
+    ssize_t length = read(some.data(), some.size());
+    if (length >= 0) {
+        bytes.assign(some.data(), static_cast<std::size_t>(length));
+        return 0;
+    }
+    if (errno != ERANGE)
+        return errno;
+    bytes.resize(largestText);
+    length = read(bytes.data(), bytes.size());
+    const int error = length < 0 ? errno : 0;
+    bytes.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
+    return error;
+}
+
 class SystemCalls : public EntryDisk {
 public:
     int Open(const std::string& path, Descriptor& entry) override
     {
-        constexpr int flags = O_PATH | O_NOFOLLOW | O_CLOEXEC;
-        entry = Descriptor(WithoutInterrupts([&] { return ::open(path.c_str(), flags); }));
-        return entry.IsOpen() ? 0 : errno;
+        if (IsFile(path))
+            return OpenFile(path, entry);
+        return OpenAs(O_PATH, path, entry);
+    }
+
+    // A file that may be read is opened for that, as calls to such a one need
+    // no other name, which takes longer to look up than all they do.
+    int OpenFile(const std::string& path, Descriptor& entry) override
+    {
+        if (OpenAs(O_RDONLY | O_NONBLOCK | O_NOCTTY, path, entry) == 0)
+            return 0;
+        return OpenAs(O_PATH, path, entry);
     }
 
     int Look(const Descriptor& entry, State& state) override
     {
-        constexpr unsigned wanted = STATX_TYPE | STATX_MODE | STATX_MTIME | STATX_BTIME;
-        struct statx data;
-        const int error = ErrorOf([&] {
-            return ::statx(entry.Number(), "", AT_EMPTY_PATH | AT_NO_AUTOMOUNT, wanted, &data);
-        });
-        if (error != 0)
-            return error;
-        state.What = KindOf(data.stx_mode);
-        state.Mode = data.stx_mode & allRights;
-        state.Written = FileTimeFromUnix(data.stx_mtime.tv_sec, data.stx_mtime.tv_nsec);
-        state.Birth.reset();
-        if ((data.stx_mask & STATX_BTIME) != 0)
-            state.Birth = FileTimeFromUnix(data.stx_btime.tv_sec, data.stx_btime.tv_nsec);
-        return 0;
+        return LookAt(entry.Number(), "", AT_EMPTY_PATH, state);
+    }
+
+    int Look(const std::string& path, State& state) override
+    {
+        return LookAt(AT_FDCWD, path.c_str(), AT_SYMLINK_NOFOLLOW, state);
     }
 
     int GetText(const Descriptor& entry, const char* name, std::string& bytes) override
     {
-        std::array<char, 256> some;
-        const OpenName path(entry);
-        ssize_t length = ::getxattr(path.Text(), name, some.data(), some.size());
-        if (length >= 0) {
-            bytes.assign(some.data(), static_cast<std::size_t>(length));
-            return 0;
-        }
-        if (errno != ERANGE)
-            return errno;
-        bytes.resize(largestText);
-        length = ::getxattr(path.Text(), name, bytes.data(), bytes.size());
-        const int error = length < 0 ? errno : 0;
-        bytes.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
-        return error;
+        return ReadText(bytes, [&](char* room, std::size_t size) {
+            return Ask(
+                entry, [&](int file) { return ::fgetxattr(file, name, room, size); },
+                [&](const char* path) { return ::getxattr(path, name, room, size); });
+        });
+    }
+
+    int GetText(const std::string& path, const char* name, std::string& bytes) override
+    {
+        return ReadText(bytes, [&](char* room, std::size_t size) {
+            return ::lgetxattr(path.c_str(), name, room, size);
+        });
+    }
+
+    int SetText(const std::string& path, const char* name, const std::string& bytes) override
+    {
+        return ErrorOf(
+            [&] { return ::lsetxattr(path.c_str(), name, bytes.data(), bytes.size(), 0); });
+    }
+
+    int RemoveText(const std::string& path, const char* name) override
+    {
+        return ErrorOf([&] { return ::lremovexattr(path.c_str(), name); });
+    }
+
+    int SetTimes(const std::string& path, FileTime accessed, FileTime written) override
+    {
+        const timespec stamps[2] = {StampOf(accessed), StampOf(written)};
+        return ErrorOf(
+            [&] { return ::utimensat(AT_FDCWD, path.c_str(), stamps, AT_SYMLINK_NOFOLLOW); });
     }
 
     int SetText(const Descriptor& entry, const char* name, const std::string& bytes) override
     {
-        const OpenName path(entry);
-        return ErrorOf(
-            [&] { return ::setxattr(path.Text(), name, bytes.data(), bytes.size(), 0); });
+        const char* const data = bytes.data();
+        const std::size_t size = bytes.size();
+        return ErrorOf([&] {
+            return Ask(
+                entry, [&](int file) { return ::fsetxattr(file, name, data, size, 0); },
+                [&](const char* path) { return ::setxattr(path, name, data, size, 0); });
+        });
     }
 
     int RemoveText(const Descriptor& entry, const char* name) override
     {
-        const OpenName path(entry);
-        return ErrorOf([&] { return ::removexattr(path.Text(), name); });
+        return ErrorOf([&] {
+            return Ask(
+                entry, [&](int file) { return ::fremovexattr(file, name); },
+                [&](const char* path) { return ::removexattr(path, name); });
+        });
     }
 
     int SetMode(const Descriptor& entry, std::uint32_t mode) override
     {
-        const OpenName path(entry);
-        return ErrorOf([&] { return ::chmod(path.Text(), mode); });
+        return ErrorOf([&] {
+            return Ask(
+                entry, [&](int file) { return ::fchmod(file, mode); },
+                [&](const char* path) { return ::chmod(path, mode); });
+        });
     }
 
     int SetTimes(const Descriptor& entry, FileTime accessed, FileTime written) override
@@ -188,6 +251,32 @@ public:
     }
 
 private:
+    int OpenAs(int flags, const std::string& path, Descriptor& entry)
+    {
+        flags |= O_NOFOLLOW | O_CLOEXEC;
+        entry = Descriptor(WithoutInterrupts([&] { return ::open(path.c_str(), flags); }));
+        return entry.IsOpen() ? 0 : errno;
+    }
+
+    int LookAt(int folder, const char* name, int flags, State& state)
+    {
+        constexpr unsigned wanted =
+            STATX_TYPE | STATX_MODE | STATX_ATIME | STATX_MTIME | STATX_BTIME;
+        struct statx data;
+        const int error =
+            ErrorOf([&] { return ::statx(folder, name, flags | AT_NO_AUTOMOUNT, wanted, &data); });
+        if (error != 0)
+            return error;
+        state.What = KindOf(data.stx_mode);
+        state.Mode = data.stx_mode & allRights;
+        state.Accessed = FileTimeFromUnix(data.stx_atime.tv_sec, data.stx_atime.tv_nsec);
+        state.Written = FileTimeFromUnix(data.stx_mtime.tv_sec, data.stx_mtime.tv_nsec);
+        state.Birth.reset();
+        if ((data.stx_mask & STATX_BTIME) != 0)
+            state.Birth = FileTimeFromUnix(data.stx_btime.tv_sec, data.stx_btime.tv_nsec);
+        return 0;
+    }
+
     std::optional<std::uint32_t> userMask_;
 };
 

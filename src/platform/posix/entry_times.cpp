@@ -78,6 +78,11 @@ int SetAllTimes(EntryDisk& disk, const Descriptor& entry, const State& state,
     return error;
 }
 
+int StoreOrRemove(EntryDisk& disk, const std::string& path, const OptionalText& text)
+{
+    return text ? disk.SetText(path, textName, *text) : disk.RemoveText(path, textName);
+}
+
 } // namespace
 
 std::optional<FileTime> ParseCreated(std::string_view text)
@@ -98,6 +103,42 @@ void TakeStoredCreated(const std::string& path, FileTime& created)
         return;
     const auto stored = ParseCreated({text.data(), static_cast<std::size_t>(length)});
     created = stored.value_or(created);
+}
+
+int GetEntryTimes(EntryDisk& disk, const std::string& path, EntryTimes& times, KnownTimes& known)
+{
+    if (const int error = disk.Look(path, known.State))
+        return error;
+    const State& state = known.State;
+    times = {ShownFor(state, {}), state.Accessed, state.Written};
+    // Who only reads doesn't loosen the mode, so that a text may stay unseen.
+    std::string text;
+    const int error = KeepsTexts(state.What) ? disk.GetText(path, textName, text) : ENOTSUP;
+    known.StoredError = error == ENODATA ? 0 : error;
+    if (error != 0)
+        return 0;
+    times.Created = ParseCreated(text).value_or(times.Created);
+    known.Stored = std::move(text);
+    return 0;
+}
+
+int SetKnownTimes(EntryDisk& disk, const std::string& path, const EntryTimes& times,
+                  const KnownTimes& known)
+{
+    OptionalText text = known.Stored;
+    if (times.Created.Ticks != 0) {
+        if (known.StoredError != 0)
+            return known.StoredError;
+        text = TextFor(known.State, times, known.Stored);
+    }
+    const bool isOther = text != known.Stored;
+    int error = isOther ? StoreOrRemove(disk, path, text) : 0;
+    if (error != 0 || (times.Accessed.Ticks == 0 && times.Written.Ticks == 0))
+        return error;
+    error = disk.SetTimes(path, times.Accessed, times.Written);
+    if (error != 0 && isOther)
+        StoreOrRemove(disk, path, known.Stored);
+    return error;
 }
 
 int SetEntryTimes(EntryDisk& disk, const Descriptor& entry, const EntryTimes& times)

@@ -23,6 +23,25 @@ std::optional<FileTime> ParseCreated(std::string_view text);
 // the one that the disk tells.
 void TakeStoredCreated(const std::string& path, FileTime& created);
 
+// What an entry was found to have: enough to set its times without another
+// look.
+struct KnownTimes {
+    EntryDisk::State State;
+    std::optional<std::string> Stored; // with the entry, as its text
+    int StoredError = 0;               // why that could not be told
+};
+
+// Reads the times of the entry that has this name, a link as itself, with the
+// Created that is stored before the one that the disk tells. Gives 0 or the
+// system's error number.
+int GetEntryTimes(EntryDisk& disk, const std::string& path, EntryTimes& times, KnownTimes& known);
+
+// Sets the times of an entry that was just found to have these, without opening
+// it. Gives 0 or an error, and then no time has changed. It does less than
+// SetEntryTimes: no mode is loosened for it.
+int SetKnownTimes(EntryDisk& disk, const std::string& path, const EntryTimes& times,
+                  const KnownTimes& known);
+
 // Sets the times of the entry, a link as itself. Created is stored only where
 // the disk would show another second; a birth time that is right by itself
 // needs nothing stored, and what was stored is removed. Where the disk knows no

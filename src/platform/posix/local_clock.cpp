@@ -10,7 +10,9 @@ namespace {
 constexpr std::int64_t ticksPerSecond = 10'000'000;
 constexpr std::int64_t secondsPerDay = 86'400;
 constexpr std::int64_t secondsFrom1601To1970 = 11'644'473'600;
-constexpr std::int64_t stretchSeconds = 6 * 3600;
+constexpr std::int64_t secondsPerHour = 3600, secondsPerMinute = 60;
+constexpr std::int64_t stretchSeconds = 6 * secondsPerHour;
+constexpr std::int64_t ticksPerMillisecond = 10'000;
 constexpr std::size_t knownStretches = 4096; // a power of two
 
 std::int64_t FloorDivide(std::int64_t value, std::int64_t by)
@@ -71,8 +73,8 @@ std::int64_t SecondsOf(const SystemTime& time)
     for (int month = 1; month < time.Month; ++month)
         days += DaysOfMonth(time.Year, month);
     days += time.Day - 1;
-    return days * secondsPerDay - secondsFrom1601To1970 + time.Hour * 3600 + time.Minute * 60
-           + time.Second;
+    return days * secondsPerDay - secondsFrom1601To1970 + time.Hour * secondsPerHour
+           + time.Minute * secondsPerMinute + time.Second;
 }
 
 std::int64_t OffsetFromSystem(std::int64_t unixSeconds)
@@ -142,7 +144,7 @@ std::int64_t LocalClock::MomentOf(std::int64_t local)
 {
     // No zone is further from UTC than this, and no rule is in force for a
     // shorter time than the steps from one look to the next.
-    constexpr std::int64_t farthest = 27 * 3600;
+    constexpr std::int64_t farthest = 27 * secondsPerHour;
     std::int64_t smallest = INT64_MAX, largest = INT64_MIN, moment = INT64_MAX;
     for (std::int64_t at = local - farthest; at <= local + farthest; at += stretchSeconds) {
         const std::int64_t offset = OffsetAt(at);
@@ -165,7 +167,7 @@ bool LocalClock::FromLocal(const SystemTime& time, FileTime& out)
     constexpr std::int64_t last = INT64_MAX / ticksPerSecond - 1;
     if (seconds < 0 || seconds > last)
         return false;
-    const std::int64_t ticks = seconds * ticksPerSecond + time.Milliseconds * 10'000;
+    const std::int64_t ticks = seconds * ticksPerSecond + time.Milliseconds * ticksPerMillisecond;
     if (ticks > 0)
         out.Ticks = ticks;
     return ticks > 0;

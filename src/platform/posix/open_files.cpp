@@ -1,53 +1,76 @@
 #include "platform/posix/open_files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <limits>
+#include <utility>
 
 namespace tavo {
+
+namespace {
+
+// What is read to be changed is small; of more no copy is kept.
+constexpr std::size_t mostKnownBytes = 4096;
+
+} // namespace
 
 int OpenFiles::Open(const std::string& path, OpenMode mode, FileHandle& file)
 {
     using Access = ContentDisk::Access;
     file = noFile;
-    Opened opened{{}, mode};
-    const int error =
-        mode == OpenMode::Times
-            ? entries_.Open(path, opened.File)
-            : OpenContent(contents_, path,
-                          mode == OpenMode::Read ? Access::Read : Access::ReadWrite, opened.File);
+    Opened opened;
+    opened.Mode = mode;
+    const Access access = mode == OpenMode::Read ? Access::Read : Access::ReadWrite;
+    const int error = mode == OpenMode::Times ? entries_.Open(path, opened.File)
+                                              : OpenContent(contents_, path, access, opened.File,
+                                                            opened.Length.emplace());
     if (error != 0)
         return error;
     do
         last_ = last_ == std::numeric_limits<FileHandle>::max() ? 1 : last_ + 1;
-    while (files_.contains(last_));
-    file = last_;
-    files_.emplace(file, std::move(opened));
+    while (Find(last_));
+    file = opened.Handle = last_;
+    files_.push_back(std::move(opened));
     return 0;
 }
 
-const OpenFiles::Opened* OpenFiles::Find(FileHandle file, bool forTimes) const
+OpenFiles::Opened* OpenFiles::Find(FileHandle file)
 {
-    const auto found = files_.find(file);
-    const bool fits = found != files_.end() && forTimes == (found->second.Mode == OpenMode::Times);
-    return fits ? &found->second : nullptr;
+    const auto found = std::ranges::find(files_, file, &Opened::Handle);
+    return found == files_.end() ? nullptr : &*found;
+}
+
+OpenFiles::Opened* OpenFiles::Find(FileHandle file, bool forTimes)
+{
+    Opened* const opened = Find(file);
+    return opened && forTimes == (opened->Mode == OpenMode::Times) ? opened : nullptr;
 }
 
 int OpenFiles::Close(FileHandle file)
 {
-    return files_.erase(file) == 1 ? 0 : EBADF;
+    Opened* const opened = Find(file);
+    if (!opened)
+        return EBADF;
+    std::swap(*opened, files_.back());
+    files_.pop_back();
+    return 0;
 }
 
 int OpenFiles::SetTimes(FileHandle file, const EntryTimes& times)
 {
-    const Opened* const opened = Find(file, true);
+    Opened* const opened = Find(file, true);
     return opened ? SetEntryTimes(entries_, opened->File, times) : EBADF;
 }
 
 int OpenFiles::Length(FileHandle file, std::uint64_t& length)
 {
-    const Opened* const opened = Find(file, false);
+    Opened* const opened = Find(file, false);
     if (!opened)
         return EBADF;
+    if (const auto known = std::exchange(opened->Length, std::nullopt)) {
+        length = *known;
+        return 0;
+    }
     ContentDisk::State state;
     const int error = contents_.Look(opened->File, state);
     length = state.Length;
@@ -56,16 +79,24 @@ int OpenFiles::Length(FileHandle file, std::uint64_t& length)
 
 int OpenFiles::Read(FileHandle file, std::uint64_t offset, std::size_t count, std::string& bytes)
 {
-    const Opened* const opened = Find(file, false);
-    return opened ? ReadContent(contents_, opened->File, offset, count, bytes) : EBADF;
+    Opened* const opened = Find(file, false);
+    if (!opened)
+        return EBADF;
+    opened->Bytes = {};
+    const int error = ReadContent(contents_, opened->File, offset, count, bytes);
+    if (error == 0 && opened->Mode == OpenMode::ReadWrite && bytes.size() <= mostKnownBytes)
+        opened->Bytes = {offset, bytes};
+    return error;
 }
 
 int OpenFiles::Write(FileHandle file, std::uint64_t offset, std::string_view bytes)
 {
-    const Opened* const opened = Find(file, false);
+    Opened* const opened = Find(file, false);
     if (!opened || opened->Mode != OpenMode::ReadWrite)
         return EBADF;
-    return WriteContent(contents_, opened->File, offset, bytes);
+    opened->Length.reset();
+    const KnownBytes known = std::exchange(opened->Bytes, {});
+    return WriteContent(contents_, opened->File, offset, bytes, known);
 }
 
 } // namespace tavo

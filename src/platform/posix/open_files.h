@@ -4,7 +4,8 @@
 #include "platform/posix/content_disk.h"
 #include "platform/posix/entry_times.h"
 
-#include <map>
+#include <optional>
+#include <vector>
 
 namespace tavo {
 
@@ -27,14 +28,19 @@ public:
 
 private:
     struct Opened {
+        FileHandle Handle = noFile;
         Descriptor File;
         OpenMode Mode = OpenMode::Read;
+        // Since it was opened; only until it is asked for, as others may write.
+        std::optional<std::uint64_t> Length = {};
+        KnownBytes Bytes = {}; // last read, until something is written
     };
-    const Opened* Find(FileHandle file, bool forTimes) const;
+    Opened* Find(FileHandle file);
+    Opened* Find(FileHandle file, bool forTimes);
 
     EntryDisk& entries_;
     ContentDisk& contents_;
-    std::map<FileHandle, Opened> files_;
+    std::vector<Opened> files_; // few at a time
     FileHandle last_ = noFile;
 };
 

@@ -64,6 +64,10 @@ public:
     void CloseHandle(FileHandle file) override;
     bool SetFileTime(FileHandle file, FileTime created, FileTime accessed,
                      FileTime written) override;
+    // What StatTimes saw last is what ChangeTimes of the same path goes by.
+    std::optional<FindData> StatTimes(const std::string& path) override;
+    bool ChangeTimes(const std::string& path, FileTime created, FileTime accessed,
+                     FileTime written) override;
     std::optional<std::uint64_t> FileLength(FileHandle file) override;
     std::optional<std::string> ReadBytes(FileHandle file, std::uint64_t offset,
                                          std::size_t count) override;
@@ -105,6 +109,9 @@ private:
     Renamer renamer_;
     Transfer transfer_;
     OpenFiles openFiles_;
+    std::string filePath_;  // a file was the last whose attributes were read
+    std::string timesPath_; // of what is in knownTimes_
+    std::optional<KnownTimes> knownTimes_;
     std::map<FindHandle, std::unique_ptr<Search>> searches_;
     FindHandle lastHandle_ = invalidFind;
     Search* current_ = nullptr; // the search of currentHandle_

@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <utility>
 
 namespace tavo {
 
@@ -47,18 +48,24 @@ std::optional<std::uint32_t> PosixFiles::GetFileAttributesA(const std::string& p
     if (!Done(CheckEntryPath(path)))
         return std::nullopt;
     FindData found;
-    int error = ReadEntry(AT_FDCWD, path.c_str(), found);
+    bool isFile = false;
+    filePath_.clear();
+    int error = ReadEntry(AT_FDCWD, path.c_str(), found, &isFile);
     if (error == 0 && (found.Attributes & attrReparse) == 0)
         error = AddStoredAttributes(*calls_.Entries, path, found.Attributes);
     if (!DoneSystem(error, path))
         return std::nullopt;
+    if (isFile)
+        filePath_ = path;
     return found.Attributes;
 }
 
 bool PosixFiles::SetFileAttributesA(const std::string& path, std::uint32_t attributes)
 {
+    const bool isFile = filePath_ == path;
+    filePath_.clear();
     return Done(CheckEntryPath(path))
-           && DoneSystem(SetAttributes(*calls_.Entries, path, attributes), path);
+           && DoneSystem(SetAttributes(*calls_.Entries, path, attributes, isFile), path);
 }
 
 FileHandle PosixFiles::OpenFile(const std::string& path, OpenMode mode)
@@ -77,6 +84,35 @@ void PosixFiles::CloseHandle(FileHandle file)
 bool PosixFiles::SetFileTime(FileHandle file, FileTime created, FileTime accessed, FileTime written)
 {
     return DoneSystem(openFiles_.SetTimes(file, {created, accessed, written}));
+}
+
+std::optional<FindData> PosixFiles::StatTimes(const std::string& path)
+{
+    knownTimes_.reset();
+    if (!Done(CheckEntryPath(path)))
+        return std::nullopt;
+    EntryTimes times;
+    KnownTimes known;
+    if (!DoneSystem(GetEntryTimes(*calls_.Entries, path, times, known), path))
+        return std::nullopt;
+    timesPath_ = path;
+    knownTimes_ = std::move(known);
+    FindData found;
+    found.Created = times.Created;
+    found.Accessed = times.Accessed;
+    found.Written = times.Written;
+    return found;
+}
+
+bool PosixFiles::ChangeTimes(const std::string& path, FileTime created, FileTime accessed,
+                             FileTime written)
+{
+    const auto known = std::exchange(knownTimes_, std::nullopt);
+    const EntryTimes times = {created, accessed, written};
+    if (known && timesPath_ == path && SetKnownTimes(*calls_.Entries, path, times, *known) == 0)
+        return Done(diskOk);
+    // With the owner's rights, or to tell what is in the way.
+    return Files::ChangeTimes(path, created, accessed, written);
 }
 
 std::optional<std::uint64_t> PosixFiles::FileLength(FileHandle file)

@@ -154,7 +154,7 @@ std::string Executable_Path()
 
 std::string AppFolder_Find(const std::string& executablePath)
 {
-    const std::string own = OwnFolder(executablePath);
+    std::string own = OwnFolder(executablePath);
     if (!own.empty() && IsPortable(own))
         return own;
     return ConfigFolder() + "tavo/";
