@@ -184,7 +184,9 @@ private:
         RenameRequest aside;
         aside.OldFull = path + first;
         aside.NewExt = names_.NewExt();
-        aside.OrigName = first;
+        // One that steps aside once more still goes back to where it began.
+        const std::string_view before = list_.Cell(blocker, p_.state.colUndoName);
+        aside.OrigName = before.empty() ? std::string_view(first) : before;
         aside.RowPos = blocker;
         for (int digit = 0; digit < tries; ++digit) {
             aside.NewName = AsideName(first, digit);

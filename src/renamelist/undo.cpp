@@ -95,7 +95,7 @@ private:
         }
     }
 
-    void Apply(int row, std::string name, std::string extOf, std::string origName)
+    void Apply(int row, std::string name, std::string_view extOf, std::string origName)
     {
         const std::string path(list_.Cell(row, p_.state.colPath));
         RenameRequest request;
