@@ -2,7 +2,7 @@
 
 #include "core/frm_main.h"
 #include "core/program.h"
-#include "renamelist/act_panel.h"
+#include "renamelist/row_walk.h"
 #include "selection/paths.h"
 #include "toolkit/numbers.h"
 #include "toolkit/text.h"
@@ -123,18 +123,8 @@ void Attr_Run(Program& p, const RunRows& rows)
 {
     Act_Stage(p, "Changing Attributes...");
     const std::int16_t mask = Mask_Of(p.main);
-    const int count = static_cast<int>(rows.size());
-    RowCounters counters;
-    for (int i = 1; i <= count; ++i) {
-        Act_Progress(p, i, count);
-        const int row = rows[static_cast<std::size_t>(i - 1)];
-        const std::string status = Row_Apply(p, row, mask, counters);
-        Act_Panel_Update(p, counters.Done, counters.Errors, counters.Unchanged);
-        p.main.lsvRename.SetCell(row, p.state.colErrors, status);
-        p.desktop.DoEvents();
-        if (p.state.ActCancel)
-            return;
-    }
+    Rows_Walk(p, rows,
+              [&](int row, RowCounters& counters) { return Row_Apply(p, row, mask, counters); });
 }
 
 std::string Attr_Undo_Row(Program& p, int row, RowCounters& counters)

@@ -3,7 +3,7 @@
 #include "core/frm_main.h"
 #include "core/program.h"
 #include "fileactions/file_times.h"
-#include "renamelist/act_panel.h"
+#include "renamelist/row_walk.h"
 #include "selection/paths.h"
 #include "toolkit/dates.h"
 
@@ -52,9 +52,10 @@ std::string Row_Fail(RowCounters& counters, std::string_view status)
     return std::string(status);
 }
 
-std::string Row_Done(Program& p, int row, const FileTimes& before, RowCounters& counters)
+std::string Row_Done(Program& p, int row, const FileStamps& before, RowCounters& counters)
 {
-    p.main.lsvRename.SetCell(row, p.state.colUndoName, DT_Undo_Build(before));
+    p.main.lsvRename.SetCell(row, p.state.colUndoName,
+                             DT_Undo_Build(Times_Marked(p.files, before)));
     ++counters.Done;
     return {};
 }
@@ -75,7 +76,7 @@ std::string Row_Apply(Program& p, int row, const TimeChange& change, RowCounters
     }
     if (!isKnown || !File_Times_Set(p.files, path, wanted, before))
         return Row_Fail(counters, "Unknown");
-    return Row_Done(p, row, before.Texts, counters);
+    return Row_Done(p, row, before, counters);
 }
 
 } // namespace
@@ -105,18 +106,8 @@ void DT_Run(Program& p, const RunRows& rows)
 {
     Act_Stage(p, "Changing Date and Time...");
     const TimeChange change = Change_Take(p);
-    const int count = static_cast<int>(rows.size());
-    RowCounters counters;
-    for (int i = 1; i <= count; ++i) {
-        Act_Progress(p, i, count);
-        const int row = rows[static_cast<std::size_t>(i - 1)];
-        const std::string status = Row_Apply(p, row, change, counters);
-        Act_Panel_Update(p, counters.Done, counters.Errors, counters.Unchanged);
-        p.main.lsvRename.SetCell(row, p.state.colErrors, status);
-        p.desktop.DoEvents();
-        if (p.state.ActCancel)
-            return;
-    }
+    Rows_Walk(p, rows,
+              [&](int row, RowCounters& counters) { return Row_Apply(p, row, change, counters); });
 }
 
 std::string DT_Undo_Row(Program& p, int row, RowCounters& counters)
@@ -130,7 +121,7 @@ std::string DT_Undo_Row(Program& p, int row, RowCounters& counters)
     DT_Undo_Parse(p.main.lsvRename.Cell(row, p.state.colUndoName), wanted);
     if (!isKnown || !File_Times_Set(p.files, path, Stamps_Of(p.files, wanted), present))
         return Row_Fail(counters, "Unknown");
-    return Row_Done(p, row, present.Texts, counters);
+    return Row_Done(p, row, present, counters);
 }
 
 } // namespace tavo

@@ -1,5 +1,9 @@
 #include "fileactions/file_times.h"
 
+#include "toolkit/text.h"
+
+#include <algorithm>
+
 namespace tavo {
 
 namespace {
@@ -12,10 +16,57 @@ FileTime WholeSeconds(FileTime time)
     return time.Ticks <= 0 ? FileTime{} : FileTime{time.Ticks - time.Ticks % ticksPerSecond};
 }
 
-FileTime Stamp_Wanted(const std::string& text, FileTime stamp, const std::string& presentText,
-                      FileTime present)
+// How far clocks are put back, of all zones.
+constexpr std::int64_t putBackSeconds[] = {1800, 3600, 7200};
+
+// Behind the text of a moment in an hour that occurs a second time. It shows
+// nothing, and what reads times passes it over.
+constexpr char secondTimeMark = ' ';
+
+bool IsSameSecond(const SystemTime& left, const SystemTime& right)
 {
-    return text == presentText ? WholeSeconds(present) : stamp;
+    return left.Second == right.Second && left.Minute == right.Minute && left.Hour == right.Hour
+           && left.Day == right.Day && left.Month == right.Month && left.Year == right.Year;
+}
+
+// Does the local time of this moment stand for that of `steps` before it, too?
+bool TellsTheSame(Files& files, FileTime time, FileTime other)
+{
+    SystemTime local, otherLocal;
+    return files.FileTimeToLocalSystemTime(time, local)
+           && files.FileTimeToLocalSystemTime(other, otherLocal) && IsSameSecond(local, otherLocal);
+}
+
+bool IsSecondTime(Files& files, FileTime time)
+{
+    return std::ranges::any_of(putBackSeconds, [&](std::int64_t seconds) {
+        return TellsTheSame(files, time, {time.Ticks - seconds * ticksPerSecond});
+    });
+}
+
+// From a moment to the one of the same local time behind it, if there is one.
+FileTime SecondTime(Files& files, FileTime time)
+{
+    for (const std::int64_t seconds : putBackSeconds) {
+        const FileTime later{time.Ticks + seconds * ticksPerSecond};
+        if (TellsTheSame(files, time, later))
+            return later;
+    }
+    return time;
+}
+
+// A text that is the present one, in whatever form, keeps the present second.
+FileTime Stamp_Wanted(Files& files, const std::string& text, FileTime stamp,
+                      const std::string& presentText, FileTime present)
+{
+    constexpr std::int64_t farthest = 7200 * ticksPerSecond;
+    const FileTime kept = WholeSeconds(present);
+    const auto [low, high] = std::minmax(stamp.Ticks, kept.Ticks);
+    const std::int64_t apart = high - low;
+    const bool mayBeSame = apart <= farthest && stamp.Ticks != 0 && !text.ends_with(secondTimeMark);
+    const bool isSame =
+        text == presentText || (mayBeSame && apart != 0 && TellsTheSame(files, stamp, kept));
+    return isSame ? kept : stamp;
 }
 
 bool Stamps_Write(Files& files, const std::string& path, const FileStamps& wanted,
@@ -23,9 +74,9 @@ bool Stamps_Write(Files& files, const std::string& path, const FileStamps& wante
 {
     const FileTimes &texts = wanted.Texts, &now = present.Texts;
     return files.ChangeTimes(
-        path, Stamp_Wanted(texts.Created, wanted.Created, now.Created, present.Created),
-        Stamp_Wanted(texts.Accessed, wanted.Accessed, now.Accessed, present.Accessed),
-        Stamp_Wanted(texts.Modified, wanted.Modified, now.Modified, present.Modified));
+        path, Stamp_Wanted(files, texts.Created, wanted.Created, now.Created, present.Created),
+        Stamp_Wanted(files, texts.Accessed, wanted.Accessed, now.Accessed, present.Accessed),
+        Stamp_Wanted(files, texts.Modified, wanted.Modified, now.Modified, present.Modified));
 }
 
 } // namespace
@@ -70,9 +121,23 @@ FileTimes File_Times_Get(Files& files, const std::string& path)
 FileStamps Stamps_Of(Files& files, const FileTimes& texts)
 {
     const auto moment = [&files](const std::string& text) {
-        return Local_To_FileTime(files, Time_Text_Parse(text));
+        const FileTime first = Local_To_FileTime(files, Time_Text_Parse(RTrim(text)));
+        return text.ends_with(secondTimeMark) ? SecondTime(files, first) : first;
     };
     return {moment(texts.Created), moment(texts.Modified), moment(texts.Accessed), texts};
+}
+
+FileTimes Times_Marked(Files& files, const FileStamps& stamps)
+{
+    FileTimes texts = stamps.Texts;
+    const auto mark = [&files](std::string& text, FileTime time) {
+        if (IsSecondTime(files, time))
+            text += secondTimeMark;
+    };
+    mark(texts.Created, stamps.Created);
+    mark(texts.Modified, stamps.Modified);
+    mark(texts.Accessed, stamps.Accessed);
+    return texts;
 }
 
 bool File_Times_Set(Files& files, const std::string& path, const FileTimes& times)

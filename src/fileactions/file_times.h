@@ -27,6 +27,10 @@ bool File_Stamps_Get(Files& files, const std::string& path, FileStamps& stamps);
 // The texts alone, empty when the file cannot be read.
 FileTimes File_Times_Get(Files& files, const std::string& path);
 
+// The texts, each with a blank behind it where the moment lies in the second of
+// two hours of one name: an undo goes back to the very one.
+FileTimes Times_Marked(Files& files, const FileStamps& stamps);
+
 // Sets all three times. One whose text is the one that the file has keeps its
 // second, which a text cannot tell in the hour that comes twice; its fraction
 // goes. A text that is no time leaves its stamp alone. False when the file

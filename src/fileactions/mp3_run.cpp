@@ -4,7 +4,7 @@
 #include "core/program.h"
 #include "fileactions/mp3_file.h"
 #include "fileactions/mp3_panel.h"
-#include "renamelist/act_panel.h"
+#include "renamelist/row_walk.h"
 #include "selection/paths.h"
 #include "toolkit/numbers.h"
 #include "toolkit/text.h"
@@ -128,18 +128,8 @@ void MP3_Run(Program& p, const RunRows& rows)
 {
     Act_Stage(p, "Updating MP3 Tags...");
     const TagInput input = Input_Take(p.main);
-    const int count = static_cast<int>(rows.size());
-    RowCounters counters;
-    int step = 0;
-    for (const int row : rows) {
-        Act_Progress(p, ++step, count);
-        const std::string_view status = Row_Update(p, row, input, counters);
-        Act_Panel_Update(p, counters.Done, counters.Errors, counters.Unchanged);
-        p.main.lsvRename.SetCell(row, p.state.colErrors, status);
-        p.desktop.DoEvents();
-        if (p.state.ActCancel)
-            return;
-    }
+    Rows_Walk(p, rows,
+              [&](int row, RowCounters& counters) { return Row_Update(p, row, input, counters); });
 }
 
 std::string MP3_Undo_Row(Program& p, int row, RowCounters& counters)

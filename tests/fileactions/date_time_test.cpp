@@ -1,5 +1,6 @@
 #include "fileactions/date_time.h"
 
+#include "core/screens.h"
 #include "fileactions/file_times.h"
 #include "support/disk_ground.h"
 #include "support/memory_clock.h"
@@ -459,10 +460,42 @@ TEST(DateTimeOnDisk, A_stamp_that_stays_keeps_its_second_in_the_hour_that_comes_
         EXPECT_EQ(files.Stat(path).value().Written, stamp);
         EXPECT_EQ(File_Times_Get(files, path).Accessed, "03/08/2001|12:00:00 AM");
     }
+    const FileTime second{first.Ticks + 3600 * ticksPerSecond};
     FileTimes typed = File_Times_Get(files, path);
     typed.Modified = "10/29/2023|02:30:15";
     EXPECT_TRUE(File_Times_Set(files, path, typed));
-    EXPECT_EQ(files.Stat(path).value().Written, first) << "a typed text means the first one";
+    EXPECT_EQ(files.Stat(path).value().Written, second) << "the same time in the boxes' form";
+    typed.Modified = "10/29/2023|02:30:16";
+    EXPECT_TRUE(File_Times_Set(files, path, typed));
+    EXPECT_EQ(files.Stat(path).value().Written.Ticks, first.Ticks + ticksPerSecond)
+        << "another text means the first one";
+}
+
+TEST(DateTimeOnDisk, An_undo_goes_back_to_the_very_hour_that_comes_twice)
+{
+    const InZone berlin("CET-1CEST,M3.5.0,M10.5.0/3");
+    const FileTime first = Clock_Moment(2023, 10, 29, 0, 30, 15);
+    for (const std::int64_t later : {0, 3600}) {
+        DiskGround ground(Ground::RealDisk);
+        Program& p = ground.P;
+        Files& files = p.files;
+        ground.Load({"a"});
+        const std::string path = ground.Full("a");
+        const FileTime stamp{first.Ticks + later * ticksPerSecond};
+        const FileHandle file = files.OpenFile(path, OpenMode::Times);
+        ASSERT_TRUE(files.SetFileTime(file, {}, {}, stamp));
+        files.CloseHandle(file);
+        p.state.SupWarnRen = p.state.SupWarnUndo = 1;
+        Mode_Set(p, modeDateTime);
+        p.main.chkDateTime[1].Value = 0;
+        p.main.chkDateTime[2].Value = 1;
+        p.main.txtDateTime[3].Text = "07/04/2001";
+        Act_Run(p, actAll);
+        ASSERT_NE(files.Stat(path).value().Written, stamp);
+        for (int times = 0; times < 3; ++times)
+            Act_Run(p, actUndo);
+        EXPECT_EQ(files.Stat(path).value().Written, stamp) << later;
+    }
 }
 
 TEST(DateTimeOnDisk, A_run_and_its_undo_on_real_files)

@@ -123,8 +123,9 @@ int SetAttributes(EntryDisk& disk, const std::string& path, std::uint32_t wanted
         return error;
     if (const int error = disk.Look(entry, before))
         return error;
+    // A link has none of the four, and can be given none.
     if (before.What == EntryDisk::Kind::Link)
-        return ENOTSUP;
+        return (wanted & allFour) == 0 ? 0 : ENOTSUP;
 
     std::optional<std::string> text;
     const int error = LoadText(disk, entry, before, textName, text);
