@@ -98,6 +98,7 @@ std::vector<std::string> Folders_Sorted(std::vector<ListedFolder> folders, Colla
     }
     std::sort(keyed.begin(), keyed.end());
     std::vector<std::string> names;
+    names.reserve(keyed.size());
     for (auto& entry : keyed)
         names.push_back(std::move(std::get<2>(entry)));
     return names;

@@ -6,6 +6,7 @@
 #include "settings/named_lists.h"
 #include "settings/settings_table.h"
 #include "settings/window_layout.h"
+#include "thumbnails/thumb_look.h"
 #include "toolkit/numbers.h"
 #include "toolkit/text.h"
 
@@ -17,8 +18,6 @@ namespace {
 
 constexpr int bufferSize = 2048;
 constexpr std::string_view nul("\0", 1);
-constexpr std::string_view defaultScheme =
-    "80,80,3,-2147483633,-2147483635,-2147483633,2,-2147483643,-2147483630,-2147483643";
 
 // -- Values. A text that is no value of the variable leaves it as it was.
 
