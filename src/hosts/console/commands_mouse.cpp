@@ -2,6 +2,7 @@
 #include "hosts/console/arguments.h"
 #include "hosts/console/commands.h"
 #include "toolkit/list_view.h"
+#include "toolkit/scroll_bar.h"
 
 #include <filesystem>
 
@@ -98,13 +99,30 @@ bool Do_DragOver(Session& session, const Words& words, Outcome& outcome)
     return true;
 }
 
-bool Do_Scroll(Session& session, const Words& words, Outcome& outcome)
+// Moves the thumb of a bar there, and lets it go or holds it.
+bool Thumb_Move(Session& session, const Words& words, void (ScrollBar::*move)(int),
+                Outcome& outcome)
 {
     Named found;
     int to = 0;
-    return Read_Whole(words[1], to, outcome) && session.Find(words[0], found, outcome)
-           && session.Reach(words[0], found, outcome)
-           && outcome.Fail(words[0] + " has no thumb to drag");
+    if (!Read_Whole(words[1], to, outcome) || !session.Find(words[0], found, outcome)
+        || !session.Reach(words[0], found, outcome))
+        return false;
+    auto* bar = dynamic_cast<ScrollBar*>(found.Target);
+    if (!bar)
+        return outcome.Fail(words[0] + " has no thumb to drag");
+    (bar->*move)(to);
+    return true;
+}
+
+bool Do_Scroll(Session& session, const Words& words, Outcome& outcome)
+{
+    return Thumb_Move(session, words, &ScrollBar::PersonScroll, outcome);
+}
+
+bool Do_Scrolling(Session& session, const Words& words, Outcome& outcome)
+{
+    return Thumb_Move(session, words, &ScrollBar::PersonDrag, outcome);
 }
 
 bool Do_Dragged(Session& session, const Words&, Outcome& outcome)
@@ -121,7 +139,7 @@ const std::vector<CommandRow>& Commands_Mouse()
     static const std::vector<CommandRow> rows{
         {"mouse", 4, 7, Do_Mouse},       {"drop", 2, -1, Do_Drop},
         {"dragdrop", 4, 4, Do_DragDrop}, {"dragover", 4, 4, Do_DragOver},
-        {"scroll", 2, 2, Do_Scroll},     {"scrolling", 2, 2, Do_Scroll},
+        {"scroll", 2, 2, Do_Scroll},     {"scrolling", 2, 2, Do_Scrolling},
         {"dragged", 0, 0, Do_Dragged},
     };
     return rows;
