@@ -83,7 +83,8 @@ std::string Path_WithoutDetours(Files& files, const std::string& path)
         const std::size_t end = std::min(path.find(separator, at), path.size() - 1) + 1;
         plain += path.substr(at, end - at);
         at = end;
-        const bool isUp = plain.ends_with(up) || (at == path.size() && plain.ends_with(up.substr(0, 3)));
+        const bool isUp =
+            plain.ends_with(up) || (at == path.size() && plain.ends_with(up.substr(0, 3)));
         if (!isUp)
             continue;
         const std::size_t here = plain.rfind("..") - 1;

@@ -131,7 +131,7 @@ TEST_F(FormKeys, A_filter_that_sets_0_uses_the_key_up)
         key = 0;
     };
     const std::pair<const char*, int> rows[] = {
-        {"x", 'x'}, {"Return", 13}, {"Escape", 27},     {"Backspace", 8},
+        {"x", 'x'},     {"Return", 13},     {"Escape", 27}, {"Backspace", 8},
         {"Ctrl+V", 22}, {"\xC3\xA4", 0xE4}, {"Space", 32},
     };
     for (const auto& [name, code] : rows) {
