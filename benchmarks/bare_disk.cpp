@@ -22,7 +22,8 @@ int WalkAt(int parent, const char* name)
     const int folder = openat(parent, name, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     Require(folder >= 0, std::string("cannot open ") + name);
     DIR* listing = fdopendir(folder);
-    Require(listing != nullptr, std::string("cannot read ") + name);
+    if (listing == nullptr)
+        Fail(std::string("cannot read ") + name);
     int count = 0;
     while (const dirent* entry = readdir(listing)) {
         if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0)

@@ -100,7 +100,8 @@ void ComboBox::PropertyChanged(Prop what)
     if (taking_) {
         taking_ = false;
         SettleSelection();
-        return Control::PropertyChanged(what);
+        return Control::PropertyChanged(
+            what); // NOLINT(bugprone-parent-virtual-call): no Change here
     }
     const int row = IsEditable() ? -1 : RowOf(Text);
     if (!IsEditable()) {

@@ -98,6 +98,7 @@ TEST(FrmMain, The_columns_have_their_keys)
     const FrmMain main;
     const auto keys = [](const ListView& list) {
         std::vector<std::string> found;
+        found.reserve(static_cast<std::size_t>(list.ColumnCount()));
         for (int i = 0; i < list.ColumnCount(); ++i)
             found.push_back(list.Column(i).Key);
         return found;

@@ -20,7 +20,7 @@ void Click_Named(const Named& found)
     const bool isPlainTool = found.AsTool && found.Target == found.AsTool;
     if (isPlainTool && found.Bars)
         found.Bars->PersonClick(*found.AsTool);
-    else
+    else if (found.Target)
         found.Target->PersonClick();
 }
 

@@ -14,7 +14,7 @@ constexpr const char* workerName = "tavo-picture";
 
 // A picture of many bytes may take longer.
 constexpr std::chrono::milliseconds leastTime{8000};
-constexpr std::uint64_t bytesPerMillisecond = 64 * 1024;
+constexpr std::uint64_t bytesPerMillisecond = std::uint64_t{64} * 1024;
 
 std::optional<Loaded> Picture_Take(Worker& worker, QSize bound)
 {

@@ -10,9 +10,9 @@ namespace tavo::pictures {
 
 namespace {
 
-using std::string_view_literals::operator""sv;
+using namespace std::string_view_literals;
 
-constexpr std::size_t largestBlock = 64 * 1024;
+constexpr std::size_t largestBlock = std::size_t{64} * 1024;
 constexpr int mostChunks = 4096;
 
 // A whole number of `count` bytes; 0 beyond the end.

@@ -9,7 +9,7 @@ namespace {
 
 using enum PictureKind;
 
-constexpr std::uint64_t mebibyte = 1024 * 1024;
+constexpr std::uint64_t mebibyte = std::uint64_t{1024} * 1024;
 // Room for the largest picture without compression, at eight bytes a dot.
 constexpr std::uint64_t streamed = 4200 * mebibyte;
 // These are taken into memory as a whole.

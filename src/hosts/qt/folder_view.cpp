@@ -36,7 +36,8 @@ FolderNode* FolderModel::NodeOf(const QModelIndex& index)
 const std::vector<std::unique_ptr<FolderNode>>&
 FolderModel::ChildrenOf(const QModelIndex& parent) const
 {
-    return parent.isValid() ? NodeOf(parent)->Children : tree_.Roots();
+    const FolderNode* node = parent.isValid() ? NodeOf(parent) : nullptr;
+    return node ? node->Children : tree_.Roots();
 }
 
 QModelIndex FolderModel::index(int row, int column, const QModelIndex& parent) const

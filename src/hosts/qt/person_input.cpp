@@ -131,7 +131,7 @@ bool PersonInput::KeyPressed(QWidget& receiver, QKeyEvent& event)
     return true;
 }
 
-void PersonInput::HandOn(Control& target, const Key& key, QPointer<QWidget> receiver,
+void PersonInput::HandOn(Control& target, const Key& key, const QPointer<QWidget>& receiver,
                          QKeyEvent& event)
 {
     if (Control_Takes(target, key))

@@ -33,7 +33,8 @@ public:
 private:
     bool Pressed(QWidget& receiver);
     bool KeyPressed(QWidget& receiver, QKeyEvent& event);
-    void HandOn(Control& target, const Key& key, QPointer<QWidget> receiver, QKeyEvent& event);
+    void HandOn(Control& target, const Key& key, const QPointer<QWidget>& receiver,
+                QKeyEvent& event);
     void Enter(QWidget& receiver);
 
     Binder& binder_;

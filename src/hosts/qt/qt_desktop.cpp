@@ -104,9 +104,7 @@ void QtDesktop::AddDialog(const std::string& formName, DialogMaker make)
 
 bool QtDesktop::TurnIsDue()
 {
-    if (sinceTurn_.isValid() && sinceTurn_.elapsed() < turnMs)
-        return false;
-    return true;
+    return !sinceTurn_.isValid() || sinceTurn_.elapsed() >= turnMs;
 }
 
 void QtDesktop::DoEvents()

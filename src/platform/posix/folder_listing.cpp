@@ -13,7 +13,7 @@ namespace tavo {
 namespace {
 
 // Large enough that a folder of a thousand files is one call.
-constexpr std::size_t readBytes = 64 * 1024;
+constexpr std::size_t readBytes = std::size_t{64} * 1024;
 
 ListedKind KindOf(unsigned char type)
 {
