@@ -151,16 +151,19 @@ void Preview_Measure(Plan& plan, Stand& stand)
     constexpr int asked = 1000;
     stand.FillRows(manyRows);
     FrmMain& main = stand.P.main;
+    Screen_Show(stand.P, screenRename, false);
     Mode_Set(stand.P, modeNameNumber);
     stand.P.state.nnAutoFill = 0;
     stand.Renames.SetAllSelected(true);
+    TextBox& box = main.txtNameNum[nnName];
+    box.Text = "<ON>_<#>_";
     const auto outcome = [&] { return main.stbMain.Panel(2); };
     const double clicked =
         Measure(plan, {{}, [&] {
                            for (int row = manyRows; row > manyRows - asked; --row)
                                stand.Renames.PersonClicked(row);
                        }});
-    TextBox& box = main.txtNameNum[nnName];
+    Require(stand.P.state.CurRow == std::to_string(manyRows - asked + 1), "no row was clicked");
     const double typed = Measure(plan, {[&] { box.Text = "<ON>_<#>_"; },
                                         [&] {
                                             for (int key = 0; key < asked; ++key)
