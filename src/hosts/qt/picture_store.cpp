@@ -2,13 +2,19 @@
 
 #include "hosts/pictures/pictures.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 namespace tavo {
 
 const QImage& PictureStore::Read(const std::string& path)
 {
-    const auto loaded = pictures::Load(path);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QSize bound = screen ? screen->size() * screen->devicePixelRatio() : QSize();
+    const auto loaded = pictures::Load(path, bound);
     path_ = path;
     image_ = loaded ? loaded->Image : QImage();
+    fullSize_ = loaded ? loaded->FullSize : QSize();
     return image_;
 }
 

@@ -261,11 +261,10 @@ bool QtDesktop::ShellExecuteA(const std::string&, const std::string& address, st
 
 bool QtDesktop::LoadPicture(const std::string& path, int& widthPixels, int& heightPixels)
 {
-    const QImage& image = pictures_.Read(path);
-    if (image.isNull())
+    if (pictures_.Read(path).isNull())
         return false;
-    widthPixels = image.width();
-    heightPixels = image.height();
+    widthPixels = pictures_.FullSize().width();
+    heightPixels = pictures_.FullSize().height();
     return true;
 }
 
