@@ -127,6 +127,9 @@ struct Taken {
 // The rename screen sets its mode, and corrects the box of its counter.
 bool IsScreensOwn(const SharedState& state, const std::string& key)
 {
+    // Digits that follow the start by themselves do so at each reading.
+    if (key == "nnDigits" && state.SetDigits == 1)
+        return true;
     return state.CurScreen == screenRename && (key == "RenMode" || key == "nnStart");
 }
 
@@ -165,7 +168,8 @@ void Variables_Check(const Taken& first, const Taken& second)
     for (const Setting& row : Settings_Table()) {
         const auto value = first.Variables.find(std::string(row.Key));
         if (value == first.Variables.end() || row.Key == "nnAppTmpDef" || row.Key == "RenMode"
-            || row.Key == "nnStart")
+            || row.Key == "nnStart"
+            || (row.Key == "nnDigits" && first.Variables.at("SetDigits") == "1"))
             continue;
         const bool isSafe = row.Form == SettingForm::Starred ? value->second.size() <= mostBytesBack
                                                              : ComesBack(value->second);
