@@ -1,6 +1,7 @@
 #include "hosts/pictures/picture_reader.h"
 #include "hosts/pictures/pictures.h"
 
+#include "drawing_samples.h"
 #include "samples.h"
 #include "support/temp_folder.h"
 
@@ -151,6 +152,52 @@ std::string Jpeg_Resized(std::uint32_t width, std::uint32_t height, const char* 
     return bytes.replace(frame + 5, 4, High(height, 2) + High(width, 2));
 }
 
+// Fourteen bits each, less one.
+std::string WebP_Lossless(std::uint32_t width, std::uint32_t height)
+{
+    const std::string dots = "\x2f" + Low((width - 1) & 0x3fff, 2) + Low(height - 1, 2) + "\0\0"s;
+    return "RIFF" + Low(20, 4) + "WEBPVP8L" + Low(8, 4) + dots;
+}
+
+std::string Tiff_Bytes(std::uint32_t width, std::uint32_t height)
+{
+    constexpr std::uint32_t longWord = 4;
+    const std::uint32_t entries[][2] = {{256, width}, {257, height}, {258, 8},      {259, 1},
+                                        {262, 1},     {273, 8},      {278, height}, {279, 9}};
+    std::string folder = Low(std::size(entries), 2);
+    for (const auto& entry : entries)
+        folder += Low(entry[0], 2) + Low(longWord, 2) + Low(1, 4) + Low(entry[1], 4);
+    return "II*\0"s + Low(8, 4) + folder + Low(0, 4) + std::string(64, '\1');
+}
+
+std::string Icon_Bytes(std::uint32_t type, int width, int height)
+{
+    constexpr std::uint32_t imageAt = 22;
+    const std::string image = Bmp_Bytes(width, height, 24, 0, "", std::string(64, '\1')).substr(14);
+    return Low(0, 2) + Low(type, 2) + Low(1, 2) + "\x20\x20\0\0"s + Low(1, 2) + Low(24, 2)
+           + Low(static_cast<std::uint32_t>(image.size()), 4) + Low(imageAt, 4) + image;
+}
+
+// A drawing whose frame in front says this width, at so many units an inch.
+std::string Wmf_Boxed(std::uint32_t width, std::uint32_t unitsPerInch)
+{
+    constexpr std::size_t boxAt = 6, sumAt = 20;
+    std::string bytes = Wmf_Bytes(true);
+    bytes.replace(boxAt, 10, Low(0, 4) + Low(width, 2) + Low(width, 2) + Low(unitsPerInch, 2));
+    std::uint32_t sum = 0;
+    for (std::size_t at = 0; at < sumAt; at += 2)
+        sum ^= static_cast<unsigned char>(bytes[at])
+               | static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[at + 1])) << 8;
+    return bytes.replace(sumAt, 2, Low(sum, 2));
+}
+
+std::string Emf_Boxed(std::uint32_t side)
+{
+    constexpr std::size_t boxAt = 8;
+    const std::string box = Low(0, 8) + Low(side, 4) + Low(side, 4);
+    return Emf_Bytes().replace(boxAt, 32, box + box);
+}
+
 // Headers that promise what is too much, or nothing at all.
 std::vector<Promise> Promises()
 {
@@ -187,6 +234,33 @@ std::vector<Promise> Promises()
          "/* XPM */\nstatic char * a[] = {\n\"99999999 99999999 1 1\",\n\"a c #0\",\n"},
         {"svg enormous", "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"999999\" "
                          "height=\"999999\"/>"},
+        {"svgz enormous", Gzip("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"999999\" "
+                               "height=\"999999\"/>")},
+        {"webp without dots", WebP_Lossless(0, 0)},
+        {"webp enormous", WebP_Lossless(16'384, 16'384)},
+        {"webp on an enormous screen", "RIFF" + Low(30, 4) + "WEBPVP8X" + Low(10, 4) + Low(0, 4)
+                                           + Low(0xffffff, 3) + Low(0xff, 3)},
+        {"tiff without width", Tiff_Bytes(0, 40)},
+        {"tiff without height", Tiff_Bytes(40, 0)},
+        {"tiff enormous", Tiff_Bytes(0xffffffff, 0xffffffff)},
+        {"tiff below the bound", Tiff_Bytes(22'000, 22'000)},
+        {"tiff whose folder is itself", "II*\0"s + Low(4, 4)},
+        {"ico of an enormous bmp", Icon_Bytes(1, 0x7fffffff, 0x7fffffff)},
+        {"ico without dots", Icon_Bytes(1, 0, 0)},
+        {"cur of an enormous bmp", Icon_Bytes(2, 30'000, 30'000)},
+        {"icns of an enormous block", "icns" + High(0xffffffff, 4) + "ic07" + High(0xffffffff, 4)},
+        {"icns of empty blocks", "icns" + High(64, 4) + std::string(56, '\0')},
+        {"pgm enormous", "P5 65535 65535 255\n" + noDots},
+        {"pgm of words", "P2 30000 30000 255\n" + noDots},
+        {"tga enormous",
+         "\0\0\2\0\0\0\0\0"s + Low(0, 4) + Low(65'535, 2) + Low(65'535, 2) + "\x18\0"s + noDots},
+        {"tga without width",
+         "\0\0\2\0\0\0\0\0"s + Low(0, 4) + Low(0, 2) + Low(8, 2) + "\x18\0"s + noDots},
+        {"wbmp enormous", "\0\0\x8f\xff\x7f\x8f\xff\x7f"s + noDots},
+        {"wmf without a box", Wmf_Boxed(0, 0)},
+        {"wmf enormous", Wmf_Boxed(0x7fff, 1)},
+        {"emf without a box", Emf_Boxed(0)},
+        {"emf enormous", Emf_Boxed(0x7fffffff)},
         {"svg without size",
          "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"0\" height=\"0\"/>"},
     };
@@ -214,6 +288,17 @@ TEST(PictureDamage, Empty_and_enormous_promises_are_none_and_cost_no_memory)
     EXPECT_LE(PeakKilobytes(RUSAGE_CHILDREN), std::max(workers, mostKilobytes));
 }
 
+std::string Gzip_Packed(const std::string& bytes)
+{
+    // Behind the length and the head of another format lies what gzip has too.
+    constexpr int front = 6, behind = 4;
+    const std::string packed =
+        qCompress(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())))
+            .toStdString();
+    return "\x1f\x8b\x08\0\0\0\0\0\0\3"s + packed.substr(front, packed.size() - front - behind)
+           + Low(Checksum(bytes), 4) + Low(static_cast<std::uint32_t>(bytes.size()), 4);
+}
+
 TEST(PictureDamage, Drawings_that_never_end_are_given_up)
 {
     const std::string head =
@@ -236,6 +321,7 @@ TEST(PictureDamage, Drawings_that_never_end_are_given_up)
                                         groups += "<g>";
                                     return groups;
                                 }()},
+        {"much out of little", Gzip_Packed(head + std::string(50'000'000, ' ') + "</svg>")},
         {"an endless picture inside", head
                                           + "<image width=\"9\" height=\"9\" "
                                             "xlink:href=\"/dev/zero\"/></svg>"},

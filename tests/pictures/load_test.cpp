@@ -1,4 +1,5 @@
 #include "hosts/pictures/confined.h"
+#include "hosts/pictures/image_bitmap.h"
 #include "hosts/pictures/picture_reader.h"
 #include "hosts/pictures/pictures.h"
 
@@ -175,9 +176,9 @@ TEST(PictureLoad, Names_of_any_bytes_are_opened)
             folder.Write(name, std::ranges::find(Samples(), sample, &Sample::Name)->Bytes);
             EXPECT_TRUE(Load(folder.Path(name))) << name << " as " << sample;
         }
-        int width = 0, height = 0;
-        EXPECT_TRUE(Picture_Size(folder.Path(name), width, height)) << name;
-        EXPECT_EQ(width, 60) << name;
+        const BitmapPtr bitmap = Bitmap_Load(folder.Path(name), 0, 0);
+        ASSERT_NE(bitmap, nullptr) << name;
+        EXPECT_EQ(bitmap->Width(), 60) << name;
     }
 }
 
@@ -213,31 +214,43 @@ TEST(PictureLoad, A_large_jpeg_is_decoded_at_the_size_wanted)
         << Told(loaded->Image.pixel(50, 37));
 }
 
-TEST(PictureReader, Tells_the_size_or_leaves_the_numbers_alone)
+std::string Size_Of(const BitmapPtr& bitmap)
+{
+    return bitmap ? Told(QSize(bitmap->Width(), bitmap->Height())) : "none";
+}
+
+TEST(PictureReader, A_picture_has_its_own_size_whatever_the_bound)
 {
     const TempFolder folder("pictures_reader");
     folder.Write("good", Bytes_Of(Image_Colours({80, 60}), "png"));
     folder.Write("bad", "words");
-    int width = -1, height = -2;
-    EXPECT_FALSE(Picture_Size(folder.Path("bad"), width, height));
-    EXPECT_FALSE(Picture_Size(folder.Path("missing"), width, height));
-    EXPECT_EQ(std::pair(width, height), std::pair(-1, -2));
-    EXPECT_TRUE(Picture_Size(folder.Path("good"), width, height));
-    EXPECT_EQ(std::pair(width, height), std::pair(80, 60));
+    EXPECT_EQ(Bitmap_Load(folder.Path("bad"), 64, 64), nullptr);
+    EXPECT_EQ(Bitmap_Load(folder.Path("missing"), 64, 64), nullptr);
+    for (const int bound : {0, 8, 40, 1000}) {
+        const BitmapPtr bitmap = Bitmap_Load(folder.Path("good"), bound, bound);
+        EXPECT_EQ(Size_Of(bitmap), "80x60") << bound;
+        const int dots = bound == 0 || bound > 80 ? 80 : bound;
+        EXPECT_EQ(Image_Of(*bitmap).width(), dots) << bound;
+    }
 }
 
-TEST(PictureReader, Saves_a_picture_at_another_size)
+TEST(PictureReader, Paints_a_picture_at_another_size)
 {
-    const TempFolder folder("pictures_save");
-    folder.Write("good", Bytes_Of(Image_Colours({80, 60}), "jpeg"));
-    EXPECT_TRUE(Picture_SavePng(folder.Path("good"), 40, 50, folder.Path("\xff.png")));
-    const auto loaded = Load(folder.Path("\xff.png"));
-    ASSERT_TRUE(loaded);
-    EXPECT_EQ(Told(loaded->FullSize), "40x50");
-    EXPECT_FALSE(Picture_SavePng(folder.Path("good"), 0, 50, folder.Path("empty.png")));
-    EXPECT_FALSE(Picture_SavePng(folder.Path("good"), 5, 5, folder.Path("no/folder.png")));
-    EXPECT_FALSE(Picture_SavePng(folder.Path("missing"), 5, 5, folder.Path("none.png")));
-    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"good", "\xff.png"}));
+    const TempFolder folder("pictures_paint");
+    folder.Write("good", Bytes_Of(Image_Colours({80, 60}), "png"));
+    const BitmapPtr whole = Bitmap_Load(folder.Path("good"), 0, 0);
+    ASSERT_NE(whole, nullptr);
+    EXPECT_EQ(Size_Of(Bitmap_Paint(*whole, 40, 30)), "40x30");
+    EXPECT_EQ(Size_Of(Bitmap_Paint(*whole, 800, 600)), "800x600");
+    EXPECT_EQ(Size_Of(Bitmap_Paint(*whole, 0, 30)), "1x30");
+    EXPECT_EQ(Size_Of(Bitmap_Paint(*whole, -5, -5)), "1x1");
+    EXPECT_EQ(Bitmap_Paint(*whole, 30000, 30000), nullptr);
+    const BitmapPtr fine = Bitmap_Paint(*whole, {40, 30}, 2);
+    ASSERT_NE(fine, nullptr);
+    EXPECT_EQ(Size_Of(fine), "40x30");
+    EXPECT_EQ(Told(Image_Of(*fine).size()), "80x60");
+    // One that no host of this kind has made has no dots to draw.
+    EXPECT_EQ(Bitmap_Paint(Bitmap(80, 60), 40, 30), nullptr);
 }
 
 } // namespace

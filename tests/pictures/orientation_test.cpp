@@ -1,5 +1,7 @@
 #include "hosts/pictures/orientation.h"
 
+#include "hosts/pictures/image_bitmap.h"
+#include "hosts/pictures/picture_reader.h"
 #include "hosts/pictures/pictures.h"
 #include "samples.h"
 #include "support/temp_folder.h"
@@ -123,6 +125,29 @@ TEST(PictureOrientation, Each_number_of_each_format_brings_the_picture_upright)
                 EXPECT_EQ(small->Image.size(), Size_Fit(full, {20, 12})) << format.Name;
                 Corners_Expect(small->Image, row, format.Name + " made small"s);
             }
+}
+
+// As a thumbnail is made: the size is told upright, whatever is kept of the
+// dots, and what is drawn has the right corners.
+TEST(PictureOrientation, A_thumbnail_of_each_number_is_upright)
+{
+    const TempFolder folder("pictures_turned_thumbnail");
+    for (const Row& row : rows)
+        for (const int bound : {0, 1, 12, 24, 80}) {
+            folder.Write("picture", Jpeg_Turned(row.Number, true));
+            const bool swaps = row.Number >= 5 && row.Number <= 8;
+            const QSize full = swaps ? QSize(height, width) : QSize(width, height);
+            const BitmapPtr loaded = Bitmap_Load(folder.Path("picture"), bound, bound);
+            ASSERT_NE(loaded, nullptr) << row.Number << " in " << bound;
+            EXPECT_EQ(QSize(loaded->Width(), loaded->Height()), full) << row.Number;
+            EXPECT_EQ(Image_Of(*loaded).size(), Size_Fit(full, {bound, bound})) << row.Number;
+            if (bound == 1)
+                continue; // one dot has no corners
+            const BitmapPtr painted = Bitmap_Paint(*loaded, full.width() / 2, full.height() / 2);
+            ASSERT_NE(painted, nullptr) << row.Number;
+            EXPECT_EQ(Image_Of(*painted).size(), full / 2) << row.Number;
+            Corners_Expect(Image_Of(*painted), row, "thumbnail in " + std::to_string(bound));
+        }
 }
 
 TEST(PictureOrientation, A_block_that_is_broken_turns_nothing)

@@ -81,14 +81,6 @@ std::string Mng()
     return "\x8aMNG\r\n\x1a\n" + Chunk("MHDR", head) + png + Chunk("MEND", {});
 }
 
-// Deflate's way to store bytes as they are.
-std::string Gzip(const std::string& bytes)
-{
-    const auto size = static_cast<std::uint32_t>(bytes.size());
-    return "\x1f\x8b\x08\0\0\0\0\0\0\3"s + "\1" + Low(size, 2) + Low(~size, 2) + bytes
-           + Low(Checksum(bytes), 4) + Low(size, 4);
-}
-
 std::vector<Sample> Samples_Make()
 {
     using enum PictureKind;
@@ -187,6 +179,13 @@ std::uint32_t Checksum(const std::string& bytes)
             sum = sum >> 1 ^ ((sum & 1) != 0 ? 0xedb88320u : 0);
     }
     return ~sum;
+}
+
+std::string Gzip(const std::string& bytes)
+{
+    const auto size = static_cast<std::uint32_t>(bytes.size());
+    return "\x1f\x8b\x08\0\0\0\0\0\0\3"s + "\1" + Low(size, 2) + Low(~size, 2) + bytes
+           + Low(Checksum(bytes), 4) + Low(size, 4);
 }
 
 std::string Chunk(const std::string& name, const std::string& data)

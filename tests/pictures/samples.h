@@ -34,6 +34,9 @@ std::string High(std::uint32_t number, int count);
 std::string Chunk(const std::string& name, const std::string& data);
 std::uint32_t Checksum(const std::string& bytes);
 
+// Packed by deflate's way to store bytes as they are; at most 65535 of them.
+std::string Gzip(const std::string& bytes);
+
 // A BMP with these bytes as its dots, under a header of 40 bytes.
 std::string Bmp_Bytes(int width, int height, int depth, int compression, const std::string& palette,
                       const std::string& dots);

@@ -3,8 +3,11 @@
 #include "samples.h"
 
 #include <QColor>
+#include <QTransform>
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace tavo::pictures {
 namespace {
@@ -70,6 +73,58 @@ TEST(PictureScale, Fine_lines_become_an_even_grey)
     }
 }
 
+// Shrunk by whole numbers each dot is the mean of those that it covers.
+TEST(PictureScale, A_chequered_board_an_eighth_as_large_is_one_grey)
+{
+    for (const QSize full : {QSize(64, 64), QSize(800, 80), QSize(8, 8), QSize(80, 1600)}) {
+        const QImage image = Scale_Smooth(Lines(full), full / 8);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                EXPECT_NEAR(qRed(image.pixel(x, y)), 127, 1)
+                    << full.width() << "x" << full.height() << " at " << x << "," << y;
+    }
+}
+
+// A scaler that picks dots, or looks at four of them only, loses it.
+TEST(PictureScale, A_thin_line_keeps_its_share_wherever_it_is)
+{
+    constexpr int side = 96, share = 8;
+    for (int place = 0; place < side; ++place) {
+        QImage image(side, side, QImage::Format_RGB32);
+        image.fill(0xff000000);
+        for (int i = 0; i < side; ++i)
+            image.setPixel(place, i, 0xffffffff);
+        const QImage narrow = Scale_Smooth(image, {side / share, side / share});
+        const QImage low =
+            Scale_Smooth(image.transformed(QTransform().rotate(90)), {side / share, side / share});
+        EXPECT_NEAR(Means_Of(narrow).Red, 255.0 / side, 0.3) << "column " << place;
+        EXPECT_NEAR(Means_Of(low).Red, 255.0 / side, 0.3) << "row " << place;
+        EXPECT_NEAR(qRed(narrow.pixel(place / share, 3)), 255 / share, 2) << "column " << place;
+    }
+}
+
+TEST(PictureScale, An_edge_made_larger_is_a_soft_slope)
+{
+    QImage image(4, 4, QImage::Format_RGB32);
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 4; ++x)
+            image.setPixel(x, y, x < 2 ? 0xff000000 : 0xffffffff);
+    const QImage large = Scale_Smooth(image, {64, 64});
+    std::set<int> levels;
+    for (int x = 0; x < 64; ++x) {
+        levels.insert(qRed(large.pixel(x, 30)));
+        EXPECT_EQ(large.pixel(x, 30), large.pixel(x, 5)) << x;
+        if (x > 0) {
+            const int step = qRed(large.pixel(x, 30)) - qRed(large.pixel(x - 1, 30));
+            EXPECT_GE(step, 0) << x;
+            EXPECT_LE(step, 40) << x;
+        }
+    }
+    EXPECT_EQ(*levels.begin(), 0);
+    EXPECT_EQ(*levels.rbegin(), 255);
+    EXPECT_GE(levels.size(), 8u);
+}
+
 TEST(PictureScale, The_mean_colour_stays)
 {
     const QImage image = Image_Colours({300, 200});
@@ -102,6 +157,18 @@ TEST(PictureScale, Clear_dots_do_not_stain_their_neighbours)
     EXPECT_NEAR(Means_Of(small).Alpha, 255.0 * 33 / 64, 3);
     EXPECT_EQ(qAlpha(small.pixel(0, 0)), 255);
     EXPECT_EQ(qAlpha(small.pixel(7, 0)), 0);
+}
+
+// Half a red dot beside a whole blue one is a third of what is seen.
+TEST(PictureScale, A_dot_weighs_by_its_opacity)
+{
+    QImage image(2, 1, QImage::Format_ARGB32);
+    image.setPixel(0, 0, qRgba(255, 0, 0, 128));
+    image.setPixel(1, 0, qRgba(0, 0, 255, 255));
+    const QColor colour = Scale_Smooth(image, {1, 1}).pixelColor(0, 0);
+    EXPECT_NEAR(colour.red(), 85, 3);
+    EXPECT_NEAR(colour.blue(), 170, 3);
+    EXPECT_NEAR(colour.alpha(), 192, 2);
 }
 
 TEST(PictureScale, Every_kind_of_image_is_scaled)

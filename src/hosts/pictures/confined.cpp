@@ -16,26 +16,24 @@ constexpr const char* workerName = "tavo-picture";
 constexpr std::chrono::milliseconds leastTime{8000};
 constexpr std::uint64_t bytesPerMillisecond = std::uint64_t{64} * 1024;
 
-std::optional<Loaded> Picture_Take(Worker& worker, QSize bound)
+} // namespace
+
+std::optional<Loaded> Confined_Take(const Printed& printed, QSize bound)
 {
     ConfinedHead head;
-    if (!worker.Read(reinterpret_cast<char*>(&head), sizeof head)
-        || head.Mark != ConfinedHead::mark)
+    if (!printed(reinterpret_cast<char*>(&head), sizeof head) || head.Mark != ConfinedHead::mark)
         return std::nullopt;
     const QSize size(head.Width, head.Height), full(head.FullWidth, head.FullHeight);
-    // The worker may have been led astray by what it read.
     if (!Size_IsFit(full) || size != Size_Fit(full, bound))
         return std::nullopt;
     QImage image(size,
                  head.HasAlpha != 0 ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     if (image.isNull()
-        || !worker.Read(reinterpret_cast<char*>(image.bits()),
-                        static_cast<std::size_t>(image.sizeInBytes())))
+        || !printed(reinterpret_cast<char*>(image.bits()),
+                    static_cast<std::size_t>(image.sizeInBytes())))
         return std::nullopt;
     return Loaded{std::move(image), full};
 }
-
-} // namespace
 
 std::string Worker_Find()
 {
@@ -59,7 +57,10 @@ std::optional<Loaded> Confined_Load(const RegularFile& file, QSize bound)
     auto worker =
         Worker::Start(program, {std::to_string(bound.width()), std::to_string(bound.height())},
                       file.Number(), time);
-    return worker ? Picture_Take(*worker, bound) : std::nullopt;
+    if (!worker)
+        return std::nullopt;
+    return Confined_Take(
+        [&worker](char* bytes, std::size_t count) { return worker->Read(bytes, count); }, bound);
 }
 
 } // namespace tavo::pictures

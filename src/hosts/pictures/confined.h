@@ -4,6 +4,7 @@
 #include "platform/posix/regular_file.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace tavo::pictures {
@@ -17,6 +18,13 @@ struct ConfinedHead {
     std::int32_t FullWidth = 0, FullHeight = 0;
     std::uint32_t HasAlpha = 0;
 };
+
+// Gives exactly so many bytes of what a worker prints; false for fewer.
+using Printed = std::function<bool(char* bytes, std::size_t count)>;
+
+// The picture that a worker prints. None for anything else than a picture that
+// fits the bound: the worker may have been led astray by what it read.
+std::optional<Loaded> Confined_Take(const Printed& printed, QSize bound);
 
 // Where the worker is: beside the running program, or where it is installed;
 // empty when it is nowhere.

@@ -1,7 +1,10 @@
 #include "hosts/pictures/decode.h"
 
+#include "hosts/pictures/icon_folder.h"
 #include "hosts/pictures/picture_device.h"
 #include "platform/posix/worker.h"
+
+#include <QColorSpace>
 
 #include <array>
 
@@ -40,35 +43,6 @@ unsigned Byte(const char* bytes, std::size_t at)
     return static_cast<unsigned char>(bytes[at]);
 }
 
-// Which image of an icon is the largest, and of those the one with most bytes,
-// which is the one with most colours. 0 stands for a width of 256.
-int LargestIcon(const RegularFile& file)
-{
-    constexpr std::size_t folderAt = 6, entrySize = 16;
-    constexpr int mostImages = 256;
-    std::array<char, entrySize> entry;
-    std::pair<unsigned, std::uint32_t> best{0, 0};
-    int largest = 0;
-    for (int i = 0; i < mostImages; ++i) {
-        const auto at = folderAt + static_cast<std::size_t>(i) * entrySize;
-        char count[2] = {};
-        file.Read(4, count, sizeof count);
-        if (i >= static_cast<int>(Byte(count, 0) | Byte(count, 1) << 8)
-            || file.Read(at, entry.data(), entrySize) < entrySize)
-            break;
-        const char* const e = entry.data();
-        const auto side = [e](std::size_t place) { return (Byte(e, place) + 255) % 256 + 1; };
-        const std::pair<unsigned, std::uint32_t> rank{side(0) * side(1),
-                                                      Byte(e, 8) | Byte(e, 9) << 8
-                                                          | Byte(e, 10) << 16 | Byte(e, 11) << 24};
-        if (rank > best) {
-            best = rank;
-            largest = i;
-        }
-    }
-    return largest;
-}
-
 // A file of icons whose reader tells no sizes: the largest by trying.
 void LargestImage_Choose(QImageReader& reader)
 {
@@ -89,7 +63,7 @@ void LargestImage_Choose(QImageReader& reader)
 void Image_Choose(QImageReader& reader, const RegularFile& file, PictureKind kind)
 {
     if (kind == PictureKind::Icon || kind == PictureKind::Cursor)
-        reader.jumpToImage(LargestIcon(file));
+        reader.jumpToImage(Icon_FindLargest(file));
     else if (kind == PictureKind::Icns)
         LargestImage_Choose(reader);
 }
@@ -128,6 +102,16 @@ QSize Upright(QSize size, Turn turn)
     return Turn_Swaps(turn) ? size.transposed() : size;
 }
 
+// The words and the profile that a camera wrote may be larger than a thumbnail,
+// and every copy of the picture would carry them on.
+void Dots_Bare(QImage& image)
+{
+    const QStringList keys = image.textKeys();
+    for (const QString& key : keys)
+        image.setText(key, QString());
+    image.setColorSpace(QColorSpace());
+}
+
 } // namespace
 
 qint64 Dots_Of(QSize size)
@@ -158,6 +142,7 @@ std::optional<Loaded> Reader_Load(QImageReader& reader, QSize bound, bool reduce
     QImage image;
     if (!reader.read(&image) || !Size_IsFit(image.size()))
         return std::nullopt;
+    Dots_Bare(image);
     const QSize full = Upright(told.isValid() ? told : image.size(), turn);
     const QSize wanted = Size_Fit(full, bound);
     image = Scale_Smooth(std::move(image), Upright(wanted, turn));

@@ -1,41 +1,74 @@
 #include "hosts/pictures/picture_reader.h"
 
+#include "hosts/pictures/decode.h"
+#include "hosts/pictures/image_bitmap.h"
 #include "hosts/pictures/pictures.h"
 
 #include <QtGlobal>
+
+#include <cstdio>
 
 namespace tavo::pictures {
 
 namespace {
 
 // Decoders complain on the standard error, where a host by lines has its own.
-void Complaints_Silence()
-{
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-}
+// Some know no other place: so while it lives theirs is another, and the
+// host's stays where it is.
+class Silence {
+public:
+    Silence() : before_(stderr), nothing_(std::fopen("/dev/null", "w"))
+    {
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+        if (nothing_ != nullptr)
+            stderr = nothing_;
+    }
+    ~Silence()
+    {
+        stderr = before_;
+        if (nothing_ != nullptr)
+            std::fclose(nothing_);
+    }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+
+private:
+    std::FILE* const before_;
+    std::FILE* const nothing_;
+};
 
 } // namespace
 
-bool Picture_Size(const std::string& path, int& widthPixels, int& heightPixels)
+BitmapPtr Bitmap_Load(const std::string& path, int boundWidth, int boundHeight)
 {
-    // Small, since only the whole of the file tells whether it can be read.
-    constexpr QSize proof(64, 64);
-    Complaints_Silence();
-    const auto loaded = Load(path, proof);
-    if (!loaded)
-        return false;
-    widthPixels = loaded->FullSize.width();
-    heightPixels = loaded->FullSize.height();
-    return true;
+    const Silence silence;
+    return Bitmap_Load(path, {boundWidth, boundHeight}, 1);
 }
 
-bool Picture_SavePng(const std::string& path, int widthPixels, int heightPixels,
-                     const std::string& target)
+BitmapPtr Bitmap_Paint(const Bitmap& bitmap, int widthPixels, int heightPixels)
 {
-    Complaints_Silence();
+    return Bitmap_Paint(bitmap, {widthPixels, heightPixels}, 1);
+}
+
+BitmapPtr Bitmap_Plain(std::uint32_t colour, int widthPixels, int heightPixels)
+{
     const QSize size(widthPixels, heightPixels);
-    const auto loaded = size.isEmpty() ? std::nullopt : Load(path, size);
-    return loaded && Save_Png(Scale_Smooth(loaded->Image, size), target);
+    if (!Size_IsFit(size))
+        return nullptr;
+    QImage image(size, QImage::Format_RGB32);
+    if (image.isNull())
+        return nullptr;
+    image.fill(0xff000000u | colour);
+    return std::make_shared<ImageBitmap>(std::move(image), size);
+}
+
+std::string Bitmap_SavePng(const Bitmap& bitmap, int widthPixels, int heightPixels,
+                           const std::string& target)
+{
+    const QSize size(widthPixels, heightPixels);
+    if (!Size_IsFit(size))
+        return "no memory for the picture";
+    return Save_Png(Scale_Smooth(Image_Of(bitmap), size), target);
 }
 
 } // namespace tavo::pictures

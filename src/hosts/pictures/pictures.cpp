@@ -2,12 +2,13 @@
 
 #include "hosts/pictures/confined.h"
 #include "hosts/pictures/decode.h"
+#include "platform/posix/file_edit.h"
 
 #include <QBuffer>
 
 #include <algorithm>
-#include <cstdio>
-#include <fstream>
+#include <filesystem>
+#include <system_error>
 
 namespace tavo::pictures {
 
@@ -44,33 +45,35 @@ QSize Size_Fit(QSize full, QSize bound)
     return {bound.width(), std::max(1, static_cast<int>(full.height() * byWidth))};
 }
 
+void Dots_Plain(QImage& image)
+{
+    // In place, so that a large picture is not there twice.
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                            : QImage::Format_RGB32);
+}
+
 QImage Scale_Smooth(QImage image, QSize size)
 {
     if (size.isEmpty() || image.isNull())
         return {};
     if (image.size() == size)
         return image;
-    // In place, so that a large picture is not there twice.
-    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                            : QImage::Format_RGB32);
+    Dots_Plain(image);
     return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-bool Save_Png(const QImage& image, const std::string& path)
+std::string Save_Png(const QImage& image, const std::string& path)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (image.isNull() || !buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG"))
-        return false;
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    if (!file)
-        return false;
-    file.write(bytes.constData(), bytes.size());
-    file.close();
-    if (!file.fail())
-        return true;
-    std::remove(path.c_str());
-    return false;
+        return "no picture to write";
+    std::error_code none;
+    const std::string target = std::filesystem::absolute(path, none).string();
+    const auto disk = SystemEditDisk();
+    const int error =
+        ChangeFile(*disk, target, [&bytes](const std::string&) { return bytes.toStdString(); });
+    return error == 0 ? std::string() : std::generic_category().message(error);
 }
 
 } // namespace tavo::pictures

@@ -33,11 +33,15 @@ std::optional<QSize> Size(const std::string& path);
 // the bound's, the other one the whole part of its own share, at least 1.
 QSize Size_Fit(QSize full, QSize bound);
 
+// Makes each dot four bytes, premultiplied where there is opacity.
+void Dots_Plain(QImage& image);
+
 // The picture at another size: every dot weighs by its area and its opacity.
 // Null for an empty size or a null picture.
 QImage Scale_Smooth(QImage image, QSize size);
 
-// False when the file could not be written whole; then there is none.
-bool Save_Png(const QImage& image, const std::string& path);
+// Gives an empty text, or why the file could not be written; it is then what it
+// was.
+std::string Save_Png(const QImage& image, const std::string& path);
 
 } // namespace tavo::pictures
