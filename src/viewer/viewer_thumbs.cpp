@@ -1,0 +1,94 @@
+#include "core/frm_main.h"
+#include "core/program.h"
+#include "toolkit/numbers.h"
+#include "toolkit/text.h"
+#include "viewer/frm_viewer.h"
+#include "viewer/viewer_parts.h"
+
+#include <algorithm>
+
+namespace tavo {
+
+namespace {
+
+constexpr int namePanel = 2;
+constexpr int endingLength = 4; // the point and three letters
+
+double Slot_Of(const Program& p, int row)
+{
+    return Val(p.main.lsvRename.Tag(row));
+}
+
+// The row's thumbnail, or its icon.
+PictureRef Preview_Of(const Program& p, int row)
+{
+    const double slot = Slot_Of(p, row);
+    const auto& buffer = p.state.ThumbBuffer;
+    if (slot >= 1 && slot < static_cast<double>(buffer.size()))
+        return PictureRef::OfBitmap(buffer[static_cast<std::size_t>(slot)]);
+    return Viewer_Icon(p, row);
+}
+
+// At the lower edge of the view, near the bar that is being dragged.
+void Preview_Place(FrmViewer& v)
+{
+    const double left = (v.picViewWin.ScaleWidth() - v.cmdThumb.Width) / 2;
+    const double top = v.picViewWin.ScaleHeight() - v.cmdThumb.Height;
+    v.cmdThumb.Left = RoundHalfEven(std::max(0.0, left));
+    v.cmdThumb.Top = std::max(0.0, top);
+}
+
+// Told by the name, where the grid goes by the type.
+bool Gif_IsLeftOut(const Program& p, int row)
+{
+    return p.state.Gif == 0 && UCase(Right(p.main.lsvRename.Text(row), endingLength)) == ".GIF";
+}
+
+BitmapPtr Thumb_Draw(Program& p, PictureBox& surface, const Bitmap& picture)
+{
+    const PixelSize size = Thumb_Fit(p.state.ThumbLook, picture.Width(), picture.Height());
+    surface.Picture = PictureRef();
+    surface.Width = size.Width;
+    surface.Height = size.Height;
+    return p.desktop.PaintPicture(picture, size.Width, size.Height);
+}
+
+} // namespace
+
+void Viewer_Preview_Show(Program& p)
+{
+    FrmViewer* const v = Viewer_Find(p);
+    const int row = v ? v->hsbCurImage.Value.Get() : 0;
+    if (!Viewer_HasRow(p, row))
+        return;
+    v->stbMain.SetPanel(namePanel, std::string(p.main.lsvRename.Text(row)));
+    v->cmdThumb.Picture = Preview_Of(p, row);
+    Preview_Place(*v);
+    v->cmdThumb.Visible = true;
+    // Its second begins anew.
+    v->tmrHideThumb.Enabled = false;
+    v->tmrHideThumb.Enabled = true;
+}
+
+void Viewer_Thumb_Make(Program& p, int row)
+{
+    FrmViewer* const v = Viewer_Find(p);
+    const bool isWanted = v && p.state.AutoThumbs == 1 && !p.Busy();
+    if (!isWanted || !Viewer_HasRow(p, row) || Slot_Of(p, row) != 0 || Gif_IsLeftOut(p, row))
+        return;
+    const BitmapPtr picture = p.desktop.LoadPicture(Viewer_File(p, row), {});
+    if (!picture)
+        return;
+    v->imgOriginal.Picture = PictureRef::OfBitmap(picture);
+    const BitmapPtr thumbnail = Thumb_Draw(p, v->picThumbMake, *picture);
+    if (!thumbnail)
+        return;
+    auto& buffer = p.state.ThumbBuffer;
+    const std::size_t slot = std::max<std::size_t>(1, buffer.size());
+    buffer.resize(slot + 1);
+    buffer[slot] = thumbnail;
+    p.main.lsvRename.SetTag(row, IntToText(static_cast<std::int64_t>(slot)));
+    p.main.tmrRefreshThumbs.Enabled = true;
+}
+
+} // namespace tavo
