@@ -123,12 +123,17 @@ std::span<const BandPlan> CommandBands()
     return bands;
 }
 
+void Bars_Build(ToolBars& bars, std::span<const Command> commands, std::span<const BandPlan> plans)
+{
+    for (const Command& command : commands)
+        Tool_Add(bars, command);
+    for (const BandPlan& plan : plans)
+        Band_Fill(bars, plan);
+}
+
 void Commands_Build(Program& p)
 {
-    for (const Command& command : Commands())
-        Tool_Add(p.main.atbMain, command);
-    for (const BandPlan& plan : CommandBands())
-        Band_Fill(p.main.atbMain, plan);
+    Bars_Build(p.main.atbMain, Commands(), CommandBands());
     Tools_Begin(p);
     Events_Wire(p);
 }

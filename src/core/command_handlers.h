@@ -49,9 +49,21 @@ void Cmd_ArrangeList(Program& p, Tool& tool);
 void Cmd_ArrangeDetails(Program& p, Tool& tool);
 void Cmd_ArrangeThumb(Program& p, Tool& tool);
 void Cmd_SortList(Program& p, Tool& tool);
+void Cmd_Viewer(Program& p, Tool& tool);
+void Cmd_ViewerUp(Program& p, Tool& tool);
 void Cmd_AutoFill(Program& p, Tool& tool);
 void Cmd_RenameMode(Program& p, Tool& tool);
 void Cmd_TmpApply(Program& p, Tool& tool);
 void Cmd_TmpApplySel(Program& p, Tool& tool);
+
+// Thumbnails (command_handlers_thumbs.cpp)
+void Cmd_ThumbClear(Program& p, Tool& tool);
+void Cmd_ThumbCreateAll(Program& p, Tool& tool);
+void Cmd_ThumbCreateSel(Program& p, Tool& tool);
+void Cmd_ThumbUpdateAll(Program& p, Tool& tool);
+void Cmd_ThumbUpdateSel(Program& p, Tool& tool);
+void Cmd_ThumbCaption(Program& p, Tool& tool);
+void Cmd_Align(Program& p, Tool& tool);
+void Cmd_SchemeDefault(Program& p, Tool& tool);
 
 } // namespace tavo

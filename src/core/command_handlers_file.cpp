@@ -6,6 +6,7 @@
 #include "renamelist/rename_list.h"
 #include "selection/selection_screen.h"
 #include "settings/settings_file.h"
+#include "viewer/frm_viewer.h"
 
 namespace tavo {
 
@@ -20,6 +21,17 @@ TextBox* Edit_Target(Program& p)
         return nullptr;
     const auto* combo = dynamic_cast<ComboBox*>(box);
     return combo && combo->Style() == ComboKind::List ? nullptr : box;
+}
+
+constexpr double viewerAboveMainTwips = 360;
+
+// Beside the main window's left edge and above its top, a square.
+void Viewer_DefaultSize(Program& p, FrmViewer& viewer)
+{
+    if (viewer.State() == WindowState::Maximised)
+        viewer.SetState(WindowState::Normal);
+    viewer.Move(p.main.Left(), p.main.Top() - viewerAboveMainTwips, p.state.WinDefaultH,
+                p.state.WinDefaultH);
 }
 
 // The tool's check and the flag behind it, turned round.
@@ -96,6 +108,8 @@ void Cmd_DefaultSize(Program& p, Tool&)
         main.SetState(WindowState::Normal);
     main.Move(main.Left(), main.Top(), p.state.WinDefaultW, p.state.WinDefaultH);
     Win_CenterScreen(p, main);
+    if (FrmViewer* viewer = p.ViewerInSight())
+        Viewer_DefaultSize(p, *viewer);
     p.desktop.SetForegroundWindow(main);
 }
 

@@ -7,6 +7,8 @@
 #include "renamelist/preview.h"
 #include "renamelist/rename_list.h"
 #include "selection/enumeration.h"
+#include "thumbnails/thumb_grid.h"
+#include "viewer/frm_viewer.h"
 
 namespace tavo {
 
@@ -38,6 +40,8 @@ void View_Choose(Program& p, int code)
         return;
     View_Set(p, code);
     Screen_Show(p, code == viewThumbnails ? screenThumbnails : screenRename, false);
+    if (code == viewThumbnails)
+        Thumb_Create_Offer(p);
 }
 
 } // namespace
@@ -111,6 +115,22 @@ void Cmd_SortList(Program& p, Tool& tool)
     for (const SortTool& row : sortTools)
         if (row.Id == tool.Name())
             Ren_List_Sort(p, p.main.lsvRename, p.main.lsvRename.ColumnByKey(row.ColumnKey));
+}
+
+void Cmd_Viewer(Program& p, Tool&)
+{
+    FrmViewer* const viewer = p.ViewerInSight();
+    if (!viewer)
+        return Viewer_Open(p, p.main.lsvRename.SelectedItem());
+    p.desktop.Show(*viewer);
+    if (viewer->State() == WindowState::Minimised)
+        viewer->SetState(WindowState::Normal);
+}
+
+void Cmd_ViewerUp(Program& p, Tool& tool)
+{
+    if (tool.Checked && p.ViewerInSight())
+        Viewer_Move(p, p.main.lsvRename.SelectedItem());
 }
 
 void Cmd_AutoFill(Program& p, Tool& tool)

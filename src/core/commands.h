@@ -10,8 +10,8 @@ namespace tavo {
 
 class Program;
 
-// One tool of the main window. Menus, bands, the dispatcher and the console
-// all read this table. A tool without a handler is inert.
+// One tool of a window. Menus, bands, the dispatcher and the console all read
+// its table. A tool without a handler is inert.
 struct Command {
     std::string_view Id;
     ToolKind Kind = ToolKind::Button;
@@ -34,7 +34,9 @@ std::span<const BandPlan> CommandBands();
 // Null when no command has this id.
 const Command* Command_Find(std::string_view id);
 
-// Builds the tools, bands and menus from the tables and wires their events.
+// Builds tools, bands and menus from such tables.
+void Bars_Build(ToolBars& bars, std::span<const Command> commands, std::span<const BandPlan> plans);
+// Those of the main window from its own, and wires their events.
 void Commands_Build(Program& p);
 
 // The dispatcher: takes a tool's id to its handler, then the ids of listed

@@ -8,6 +8,7 @@
 #include "selection/paths.h"
 #include "selection/selection_screen.h"
 #include "settings/window_layout.h"
+#include "thumbnails/thumb_grid.h"
 #include "toolkit/numbers.h"
 
 namespace tavo {
@@ -36,7 +37,9 @@ void Template_Choose(Program& p, int index)
 
 void Scheme_Choose(Program& p, int index)
 {
-    p.state.Scheme = p.state.ThumbSchemes[static_cast<std::size_t>(index)].Name;
+    const NamedItem scheme = p.state.ThumbSchemes[static_cast<std::size_t>(index)];
+    p.state.Scheme = scheme.Name;
+    Thumb_Scheme_Apply(p, scheme.Data);
 }
 
 void Layout_Choose(Program& p, int index)

@@ -8,10 +8,13 @@ FrmMain::FrmMain() : Form("frmMain")
     stbMain.Move(0, 0, 12000, 375);
     DesignSelection();
     DesignLists();
+    DesignThumbnails();
     DesignPanels();
     DesignActionPanel();
     tmrDateTimeClock.Interval = 1000;
     tmrRedrawThumbs.Interval = 250;
+    tmrRefreshThumbs.Interval = 10;
+    tmrThumbsScrollD.Interval = tmrThumbsScrollU.Interval = 200;
 }
 
 void FrmMain::DesignSelection()
@@ -53,6 +56,44 @@ void FrmMain::DesignLists()
     picThumbnails.AccessibleName = "Thumbnails";
     for (Control* control : std::initializer_list<Control*>{&lsvRename, &picThumbnails, &picAction})
         control->Visible = false;
+}
+
+void FrmMain::DesignThumbnails()
+{
+    constexpr double gap = 120, stripHeight = 240, buttonHeight = 420;
+    for (Control* control :
+         std::initializer_list<Control*>{&shpThumbsSelC, &imgThumbsC, &cmdThumbsFind, &lblThumbsSD,
+                                         &lblThumbsSU, &picThumbs, &vsbThumbs})
+        control->Container = &picThumbnails;
+    shpThumbsSelC.Move(gap, gap, 1350, 1350);
+    shpThumbsSelC.BackColor = static_cast<std::int32_t>(0x8000000F);
+    shpThumbsSelC.BorderColor = static_cast<std::int32_t>(0x80000010);
+    shpThumbsSelC.Tag = imgThumbsC.Tag = std::string("0");
+    imgThumbsC.DragsItself = true;
+    imgThumbsC.AccessibleName = "Parked picture";
+    cmdThumbsFind.Caption = "Find";
+    cmdThumbsFind.Height = buttonHeight;
+    lblThumbsSD.Caption = "5"; // arrows in the font Marlett
+    lblThumbsSU.Caption = "6";
+    lblThumbsSD.Alignment = lblThumbsSU.Alignment = 2;
+    lblThumbsSD.Height = lblThumbsSU.Height = stripHeight;
+    vsbThumbs.Min = 1;
+    vsbThumbs.Max = 1;
+    vsbThumbs.Width = 255;
+    picThumbs.PixelScale = true;
+    for (Control* control : std::initializer_list<Control*>{
+             &shpThumbsSel[1], &imgThumbs[1], &lblThumbs[1], &imgOriginal, &picThumb}) {
+        control->Container = &picThumbs;
+        control->Visible = false;
+    }
+    picThumb.PixelScale = true;
+    static constexpr const char* icons[] = {"No Drag", "Drag Left", "Drag Right",
+                                            "Drag Up", "Drag Down", "Drag"};
+    for (const auto& icon : imgDragIcon) {
+        icon->Container = &picThumbnails;
+        icon->Visible = false;
+        icon->ToolTipText = std::string(icons[icon->Index()]);
+    }
 }
 
 void FrmMain::DesignActionPanel()

@@ -8,6 +8,7 @@
 #include "toolkit/list_view.h"
 #include "toolkit/mask_box.h"
 #include "toolkit/panels.h"
+#include "toolkit/scroll_bar.h"
 #include "toolkit/text_box.h"
 #include "toolkit/tool_bars.h"
 
@@ -32,7 +33,7 @@ public:
     FolderTree ftvSelMain{*this, "ftvSelMain"};
     ListView lsvSelMain{*this, "lsvSelMain"};
     PictureBox picSelPreview{*this, "picSelPreview"};
-    PictureBox imgSelPreview{*this, "imgSelPreview"};
+    ImageBox imgSelPreview{*this, "imgSelPreview"};
     Label lblSelDBX{*this, "lblSelDBX"}, lblSelDBY{*this, "lblSelDBY"};
 
     // The panels of the rename modes, one a mode; 7 is the empty list's
@@ -90,6 +91,23 @@ public:
     // Rename list and thumbnail view
     ListView lsvRename{*this, "lsvRename"};
     PictureBox picThumbnails{*this, "picThumbnails"};
+    // The side box, where one picture is parked
+    Shape shpThumbsSelC{*this, "shpThumbsSelC"};
+    ImageBox imgThumbsC{*this, "imgThumbsC"};
+    CommandButton cmdThumbsFind{*this, "cmdThumbsFind"};
+    // The grid, in pixels, between two strips that scroll it during a drag
+    Label lblThumbsSD{*this, "lblThumbsSD"}, lblThumbsSU{*this, "lblThumbsSU"};
+    PictureBox picThumbs{*this, "picThumbs"};
+    ScrollBar vsbThumbs{*this, "vsbThumbs"};
+    // Cells from 1; those behind the first come and go with the window's size
+    ControlArray<Shape> shpThumbsSel{*this, "shpThumbsSel", 1, 1};
+    ControlArray<ImageBox> imgThumbs{*this, "imgThumbs", 1, 1};
+    ControlArray<Label> lblThumbs{*this, "lblThumbs", 1, 1};
+    // Pointers of a drag: 0 no drop, 1 left, 2 right, 3 up, 4 down, 5 drop
+    ControlArray<ImageBox> imgDragIcon{*this, "imgDragIcon", 0, 5};
+    // Where a picture is loaded and drawn at another size
+    ImageBox imgOriginal{*this, "imgOriginal"};
+    PictureBox picThumb{*this, "picThumb"};
 
     // Action panel
     PictureBox picAction{*this, "picAction"};
@@ -102,12 +120,14 @@ public:
         cmdActDone{*this, "cmdActDone"};
 
     Timer tmrDateTimeClock{*this, "tmrDateTimeClock"};
-    Timer tmrRedrawThumbs{*this, "tmrRedrawThumbs"};
+    Timer tmrRedrawThumbs{*this, "tmrRedrawThumbs"}, tmrRefreshThumbs{*this, "tmrRefreshThumbs"};
+    Timer tmrThumbsScrollD{*this, "tmrThumbsScrollD"}, tmrThumbsScrollU{*this, "tmrThumbsScrollU"};
 
 private:
     // What frm_main_design.cpp sets, screen by screen.
     void DesignSelection();
     void DesignLists();
+    void DesignThumbnails();
     void DesignPanels();
     void DesignActionPanel();
 };

@@ -58,6 +58,20 @@ void Panel_Insides(Program& p)
     Stretch(main.cboMP3Genre, main.fraMP3.Width, tagMargin);
 }
 
+// The side column has its own width; the grid takes what is left, between its
+// strips.
+void Thumbs_Layout(FrmMain& main)
+{
+    const PictureBox& page = main.picThumbnails;
+    const double strip = main.lblThumbsSD.Height, left = main.picThumbs.Left;
+    const double barLeft = page.Width - main.vsbThumbs.Width;
+    const double width = std::max(0.0, barLeft - left);
+    main.lblThumbsSD.Move(left, 0, width, strip);
+    main.lblThumbsSU.Move(left, page.Height - strip, width, strip);
+    main.picThumbs.Move(left, strip, width, std::max(0.0, page.Height - 2 * strip));
+    main.vsbThumbs.Move(barLeft, 0, main.vsbThumbs.Width, page.Height);
+}
+
 void Rename_Layout(Program& p, double panelHeight)
 {
     FrmMain& main = p.main;
@@ -65,6 +79,7 @@ void Rename_Layout(Program& p, double panelHeight)
     main.lsvRename.Move(-listOverlap, panelHeight - listOverlap, width + 2 * listOverlap,
                         height + 2 * listOverlap);
     main.picThumbnails.Move(0, panelHeight, width, height);
+    Thumbs_Layout(main);
     main.picAction.Move(0, panelHeight, width, height);
     Center(main.fraActControls, width);
     main.fraActControls.Top = (height - main.fraActControls.Height) / 2;

@@ -1,5 +1,7 @@
 #include "core/program.h"
 
+#include "controls/frm_about.h"
+#include "controls/frm_color.h"
 #include "core/commands.h"
 #include "core/frm_main.h"
 #include "core/screens.h"
@@ -13,7 +15,13 @@
 #include "renamelist/name_panels.h"
 #include "renamelist/nn_panel.h"
 #include "renamelist/rename_list.h"
+#include "selection/frm_export_dir.h"
 #include "selection/selection_screen.h"
+#include "settings/frm_settings.h"
+#include "thumbnails/frm_thumb_editor.h"
+#include "thumbnails/frm_thumb_resize.h"
+#include "thumbnails/thumb_grid.h"
+#include "viewer/frm_viewer.h"
 
 namespace tavo {
 
@@ -32,6 +40,8 @@ Program::Program(Files& filesPort, Profile& profilePort, Desktop& desktopPort, S
     DT_Panel_Wire(*this);
     MP3_Panel_Wire(*this);
     Act_Wire(*this);
+    Thumb_Wire(*this);
+    Viewer_Wire(*this);
 }
 
 Program::~Program() = default;
@@ -52,19 +62,72 @@ void Program::Settle()
     main.Unload();
 }
 
+namespace {
+
+template <class T>
+T& Form_Made(std::unique_ptr<T>& form, Program& p)
+{
+    if (!form)
+        form = std::make_unique<T>(p);
+    return *form;
+}
+
+} // namespace
+
 FrmDelete& Program::Delete()
 {
-    if (!deleteForm_)
-        deleteForm_ = std::make_unique<FrmDelete>(*this);
-    return *deleteForm_;
+    return Form_Made(deleteForm_, *this);
+}
+
+FrmColor& Program::Color()
+{
+    return Form_Made(colorForm_, *this);
+}
+
+FrmThumbResize& Program::ThumbResize()
+{
+    return Form_Made(thumbResizeForm_, *this);
+}
+
+FrmThumbEditor& Program::ThumbEditor()
+{
+    return Form_Made(thumbEditorForm_, *this);
+}
+
+FrmExportDir& Program::ExportDir()
+{
+    return Form_Made(exportForm_, *this);
+}
+
+FrmSettings& Program::Settings()
+{
+    return Form_Made(settingsForm_, *this);
+}
+
+FrmAbout& Program::About()
+{
+    return Form_Made(aboutForm_, *this);
+}
+
+FrmViewer& Program::Viewer()
+{
+    return Form_Made(viewerForm_, *this);
+}
+
+FrmViewer* Program::ViewerInSight() const
+{
+    return viewerForm_ && viewerForm_->Visible() ? viewerForm_.get() : nullptr;
 }
 
 // Every form that has been made so far.
 std::vector<Form*> Program::Forms() const
 {
     std::vector<Form*> forms{mainForm_.get()};
-    if (deleteForm_)
-        forms.push_back(deleteForm_.get());
+    for (Form* form : std::initializer_list<Form*>{
+             deleteForm_.get(), colorForm_.get(), thumbResizeForm_.get(), thumbEditorForm_.get(),
+             exportForm_.get(), settingsForm_.get(), aboutForm_.get(), viewerForm_.get()})
+        if (form)
+            forms.push_back(form);
     return forms;
 }
 

@@ -12,8 +12,15 @@
 
 namespace tavo {
 
+class FrmAbout;
+class FrmColor;
 class FrmDelete;
+class FrmExportDir;
 class FrmMain;
+class FrmSettings;
+class FrmThumbEditor;
+class FrmThumbResize;
+class FrmViewer;
 
 inline constexpr std::string_view appTitle = "Tavo";
 inline constexpr std::string_view appVersion = "1.0";
@@ -53,6 +60,15 @@ public:
     void Settle();
 
     FrmDelete& Delete();
+    FrmColor& Color();
+    FrmThumbResize& ThumbResize();
+    FrmThumbEditor& ThumbEditor();
+    FrmExportDir& ExportDir();
+    FrmSettings& Settings();
+    FrmAbout& About();
+    FrmViewer& Viewer();
+    // Null while it is not in sight.
+    FrmViewer* ViewerInSight() const;
     // A form that is up or has been, by its name; null when there is none.
     Form* FindForm(std::string_view name) const;
     // Those that are loaded, in the order of their making.
@@ -61,7 +77,11 @@ public:
     // The rows of the rename list are others: a host or a screen above may
     // have to draw them anew.
     Event<> RowsRedrawn;
-    // A row was clicked or the selection changed (thumbnails, viewer follow).
+    // And there are more or fewer of them.
+    Event<> RowsCounted;
+    // A click on a row begins: the viewer follows.
+    Event<int> RowTaken;
+    // And has shown the row (the thumbnails follow).
     Event<int> RowShown;
 
     // Shows a message box with the program's caption.
@@ -79,6 +99,13 @@ private:
 
     int busy_ = 0;
     std::unique_ptr<FrmDelete> deleteForm_;
+    std::unique_ptr<FrmColor> colorForm_;
+    std::unique_ptr<FrmThumbResize> thumbResizeForm_;
+    std::unique_ptr<FrmThumbEditor> thumbEditorForm_;
+    std::unique_ptr<FrmExportDir> exportForm_;
+    std::unique_ptr<FrmSettings> settingsForm_;
+    std::unique_ptr<FrmAbout> aboutForm_;
+    std::unique_ptr<FrmViewer> viewerForm_;
 };
 
 // Holds the right to the one long operation for as long as it lives. Tests

@@ -8,7 +8,9 @@
 #include "selection/paths.h"
 #include "selection/selection_screen.h"
 #include "settings/settings_file.h"
+#include "thumbnails/thumb_grid.h"
 #include "toolkit/text.h"
+#include "viewer/frm_viewer.h"
 
 #include <array>
 
@@ -19,6 +21,7 @@ namespace {
 constexpr double defaultWidthPixels = 800, defaultHeightPixels = 600;
 constexpr std::int32_t smallestWidth = 6732;
 constexpr double smallestHeight = 5250;
+constexpr double captionTwips = 252; // of the first thumbnail
 
 // The order in which the sections of the settings file are read. Templates
 // come before Defaults, which names one of them.
@@ -172,8 +175,10 @@ void Form_Load(Program& p)
     p.main.SetCaption(Title_Get(modeNone));
     Sizes_Begin(p);
     Screens_Stack(p.main);
+    p.main.lblThumbs[1].Height = captionTwips / p.desktop.TwipsPerPixel();
     for (const std::string_view section : sectionsInOrder)
         Ini_Load(p, std::string(section), file);
+    Thumb_Scheme_TakeUp(p);
     Cols_Init(p);
     CommandLine_Take(p);
     FirstScreen_Show(p);
@@ -191,6 +196,9 @@ void Form_Unload(Program& p)
             Ini_Save(p, "Position", file);
     }
     p.state.MainAlive = false;
+    // From now on it does not only hide.
+    if (FrmViewer* viewer = Viewer_Find(p))
+        viewer->Unload();
 }
 
 void Main_Wire(Program& p)
@@ -205,10 +213,6 @@ void Main_Wire(Program& p)
     main.Activate = [&p] { p.main.Refresh(); };
     main.KeyDown = [&p](Key& key) { Form_KeyDown(p, key); };
     main.tmrDateTimeClock.Tick = [&p] { Clock_Show(p); };
-    main.tmrRedrawThumbs.Tick = [&p] {
-        p.main.tmrRedrawThumbs.Enabled = false;
-        p.RowsRedrawn();
-    };
 }
 
 } // namespace tavo

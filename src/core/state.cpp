@@ -9,6 +9,7 @@ namespace tavo {
 namespace {
 
 using S = SharedState;
+using L = ThumbLook;
 
 template <class Number>
 std::string Value_Text(Number value)
@@ -47,7 +48,7 @@ const std::vector<Variable>& Variables()
         {"RenMode", &S::RenMode},
         {"ColViewWin", &S::ColViewWin},
         {"Scheme", &S::Scheme},
-        {"ThumbCaption", &S::ThumbCaption},
+        {"ThumbCaption", &L::CaptionShown},
         {"Gif", &S::Gif},
         {"tbsAddress", &S::tbsAddress},
         {"tbsTextLabels", &S::tbsTextLabels},
@@ -124,6 +125,39 @@ const std::vector<Variable>& Variables()
         {"RenFailed", &S::RenFailed},
         {"RenErrCode", &S::RenErrCode},
         {"ListDragging", &S::ListDragging},
+        {"ThumbLook.CaptionShown", &L::CaptionShown},
+        {"ThumbLook.Align", &L::Align},
+        {"ThumbLook.CaptionHeight", &L::CaptionHeight},
+        {"ThumbLook.Width", &L::Width},
+        {"ThumbLook.Height", &L::Height},
+        {"ThumbLook.CellWidth", &L::CellWidth},
+        {"ThumbLook.CellHeight", &L::CellHeight},
+        {"ThumbLook.Margin", &L::Margin},
+        {"ThumbLook.BorderWidth", &L::BorderWidth},
+        {"ThumbLook.Color(0)", LookColor{0}},
+        {"ThumbLook.Color(1)", LookColor{1}},
+        {"ThumbLook.Color(2)", LookColor{2}},
+        {"ThumbLook.Color(3)", LookColor{3}},
+        {"ThumbLook.Color(4)", LookColor{4}},
+        {"ThumbLook.Color(5)", LookColor{5}},
+        {"Columns", &S::Columns},
+        {"Rows", &S::Rows},
+        {"Cells", &S::Cells},
+        {"SelAnchor", &S::SelAnchor},
+        {"LastRow", &S::LastRow},
+        {"ImgWidth", &S::ImgWidth},
+        {"ImgHeight", &S::ImgHeight},
+        {"PanX", &S::PanX},
+        {"PanY", &S::PanY},
+        {"ViewEnlarge", &S::ViewEnlarge},
+        {"ViewShrink", &S::ViewShrink},
+        {"ShowForward", &S::ShowForward},
+        {"ColorCurrent", &S::ColorCurrent},
+        {"ColorDefault", &S::ColorDefault},
+        {"ColorCustom", &S::ColorCustom},
+        {"SchemeEditMode", &S::SchemeEditMode},
+        {"SchemeEditText", &S::SchemeEditText},
+
         {"PreviewOn", &S::PreviewOn},
         {"CurRow", &S::CurRow},
         {"OldName", &S::OldName},

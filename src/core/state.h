@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/files.h"
+#include "thumbnails/thumb_look.h"
+#include "toolkit/bitmap.h"
 
 #include <array>
 #include <cstdint>
@@ -74,7 +76,6 @@ struct SharedState {
     std::int16_t RenMode = 0;
     std::int32_t ColViewWin = 0;
     std::string Scheme;
-    bool ThumbCaption = false;
     std::uint8_t Gif = 0;
     std::uint8_t tbsAddress = 0, tbsTextLabels = 0, tbtTextLabels = 0, tbvTextLabels = 0;
     std::uint8_t SelPreview = 0;
@@ -129,11 +130,27 @@ struct SharedState {
     std::int32_t RenErrCode = 0;
     bool ListDragging = false;
 
-    // The thumbnails by slot; slot 0 stays empty.
-    struct Thumbnail {
-        int WidthPixels = 0, HeightPixels = 0;
-    };
-    std::vector<Thumbnail> ThumbBuffer{1};
+    // The thumbnails: their look (with the key ThumbCaption as its CaptionShown),
+    // the pictures by slot (slot 0 stays empty), and the grid as it fits.
+    tavo::ThumbLook ThumbLook;
+    std::vector<BitmapPtr> ThumbBuffer{1};
+    std::int16_t Columns = 0, Rows = 0, Cells = 0;
+    // The fixed end of a range, and the row of the last press.
+    std::int16_t SelAnchor = 0;
+    std::int32_t LastRow = 0;
+
+    // The viewer: natural size of its picture in pixels, where a drag of it
+    // began, what is done to small and to large pictures, and which way the
+    // slide show goes.
+    std::int32_t ImgWidth = 0, ImgHeight = 0, PanX = 0, PanY = 0;
+    bool ViewEnlarge = false, ViewShrink = false, ShowForward = false;
+
+    // What goes to and fro between the colour selector and its callers.
+    std::int32_t ColorCurrent = 0, ColorDefault = 0;
+    bool ColorCustom = false;
+    // And to and fro between the settings and the editor of a scheme.
+    bool SchemeEditMode = false;
+    std::string SchemeEditText;
 
     // The live preview. CurRow is the text of the selected row's position.
     bool PreviewOn = false;
@@ -151,13 +168,18 @@ struct CaseTemp {
     std::size_t Index = 0;
 };
 
+// One of the look's colours, 0 to 5.
+struct LookColor {
+    std::size_t Index = 0;
+};
+
 // A shared variable by its name, for the settings and the console. Several
 // names may stand for one variable.
 struct Variable {
     std::string_view Name;
     std::variant<std::uint8_t SharedState::*, std::int16_t SharedState::*,
                  std::int32_t SharedState::*, bool SharedState::*, std::string SharedState::*,
-                 CaseTemp>
+                 CaseTemp, std::int16_t ThumbLook::*, bool ThumbLook::*, LookColor>
         Where;
 };
 
@@ -167,8 +189,14 @@ decltype(auto) Variable_Use(State& state, const Variable& variable, Use&& use)
 {
     return std::visit(
         [&](auto where) -> decltype(auto) {
-            if constexpr (std::is_same_v<decltype(where), CaseTemp>)
+            using Where = decltype(where);
+            if constexpr (std::is_same_v<Where, CaseTemp>)
                 return use(state.ccTemp[where.Index]);
+            else if constexpr (std::is_same_v<Where, LookColor>)
+                return use(state.ThumbLook.Color[where.Index]);
+            else if constexpr (std::is_same_v<Where, std::int16_t ThumbLook::*>
+                               || std::is_same_v<Where, bool ThumbLook::*>)
+                return use(state.ThumbLook.*where);
             else
                 return use(state.*where);
         },

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/files.h"
+#include "toolkit/bitmap.h"
 
 #include <functional>
 #include <optional>
@@ -62,14 +63,30 @@ public:
     // Lets the person choose a folder; none when nothing was chosen.
     virtual std::optional<std::string> SHBrowseForFolderA(const std::string& title) = 0;
 
+    // Lets the person choose where to save a file, and asks before an existing
+    // one is taken. The filter names a kind of files and, behind NUL, their
+    // pattern. None when nothing was chosen.
+    struct SaveQuestion {
+        std::string Title, Filter, DefaultExtension;
+    };
+    virtual std::optional<std::string> GetSaveFileNameA(const SaveQuestion& question) = 0;
+
     // Hands an address to the desktop's opener with a verb such as "open".
     // False, with a text a user can read in `why`, when that failed.
     virtual bool ShellExecuteA(const std::string& verb, const std::string& address,
                                std::string& why) = 0;
 
-    // Reads a picture's size in pixels, and makes the host ready to show it.
-    // False for a file that cannot be read as a picture.
-    virtual bool LoadPicture(const std::string& path, int& widthPixels, int& heightPixels) = 0;
+    // The pictures that are shown are no larger than this; 0 for their own size.
+    struct PictureBound {
+        int WidthPixels = 0, HeightPixels = 0;
+    };
+    // Reads a picture, upright. It has its own size whatever the bound: that
+    // only lets the host keep fewer dots of it. Null for a file that cannot be
+    // read as a picture.
+    virtual BitmapPtr LoadPicture(const std::string& path, PictureBound bound) = 0;
+    // Draws it smoothly on an empty surface of this size; null when there is no
+    // memory for that, or no size.
+    virtual BitmapPtr PaintPicture(const Bitmap& picture, int widthPixels, int heightPixels) = 0;
 
     // The local time now.
     virtual SystemTime Now() = 0;

@@ -199,6 +199,22 @@ public:
     // length. When that failed, content and length are what they were.
     virtual bool WriteBytes(FileHandle file, std::uint64_t offset, std::string_view bytes) = 0;
 
+    // A file that is written from its beginning. It takes the place of `path`
+    // only when it is closed: one that could not be written whole leaves the
+    // old file, or none. Something there that is no file (a device) is written
+    // to at once. noFile when it cannot be opened.
+    virtual FileHandle OpenOutput(const std::string&) { return noFile; }
+    // False when the bytes did not all find room.
+    virtual bool WriteOutput(FileHandle, std::string_view) { return false; }
+    // False when the file is not whole, and is not there.
+    virtual bool CloseOutput(FileHandle) { return false; }
+
+    // The program's entry in the "Send To" menus of the system: does it stand
+    // in all of them, and put it there or take it away. Only what is ours is
+    // taken away.
+    virtual bool SendToStands() { return false; }
+    virtual void SendToSet(bool) {}
+
     // A local time, by the rule that the zone has for that date, to UTC. A
     // time that occurs twice is the first one. False for what is no time; `out`
     // then stays as it was.

@@ -376,7 +376,7 @@ void Act_Done(Program& p)
         return;
     }
     Preview_Show(p);
-    p.RowsRedrawn();
+    p.RowsCounted();
 }
 
 void Act_Wire(Program& p)

@@ -8,6 +8,7 @@
 #include "selection/enumeration.h"
 #include "selection/paths.h"
 #include "toolkit/text.h"
+#include "viewer/frm_viewer.h"
 
 #include <algorithm>
 #include <array>
@@ -135,6 +136,16 @@ void List_Show(Program& p)
     Row_Click(p);
 }
 
+// Both come to the front in turn, so that they keep their order on the screen.
+void Windows_InOrder(Program& p)
+{
+    FrmViewer* const viewer = p.ViewerInSight();
+    if (!viewer)
+        return;
+    p.desktop.Show(*viewer);
+    p.desktop.Show(p.main);
+}
+
 } // namespace
 
 void Ren_List_Prepare(Program& p)
@@ -147,6 +158,7 @@ void Ren_List_Prepare(Program& p)
     s.ActCancel = false;
     s.ActReady = true;
     s.RenCount = 0;
+    s.ThumbBuffer.assign(1, nullptr);
     Cols_Init(p);
     f.lsvRename.DeleteAllItems();
     f.lsvRename.SetSorted(false);
@@ -203,15 +215,18 @@ void Ren_List_Create(Program& p)
 
 void Ren_List_Finish(Program& p)
 {
-    const FreezeGuard freeze(p.main);
-    ListView& list = p.main.lsvRename;
-    p.state.RenCount = list.Count();
-    if (p.state.RenCount >= 1)
-        List_Show(p);
-    else
-        Ren_List_Clear(p);
-    list.EnsureVisible(1);
-    p.RowsRedrawn();
+    {
+        const FreezeGuard freeze(p.main);
+        ListView& list = p.main.lsvRename;
+        p.state.RenCount = list.Count();
+        if (p.state.RenCount >= 1)
+            List_Show(p);
+        else
+            Ren_List_Clear(p);
+        list.EnsureVisible(1);
+        p.RowsCounted();
+    }
+    Windows_InOrder(p);
 }
 
 void Ren_List_Clear(Program& p)

@@ -18,15 +18,6 @@ void Row_MoveSelected(Program& p, int from, int to)
     p.main.lsvRename.SetSelected(to, true);
 }
 
-// What is arranged by hand is no longer in the order of a column.
-void Order_MakePlain(ListView& list)
-{
-    if (!list.Sorted())
-        return;
-    Ren_Marks_Clear(list);
-    list.SetSorted(false);
-}
-
 // From the end on, so that no move shifts a row that is still to come.
 void Rows_MoveToEnd(Program& p, const std::vector<int>& rows, std::int64_t distance)
 {
@@ -112,7 +103,7 @@ void Ren_List_Arrange(Program& p, std::string_view direction)
 void Ren_Rows_MoveSelected(Program& p, int distance, bool downward)
 {
     ListView& list = p.main.lsvRename;
-    Order_MakePlain(list);
+    Ren_Order_MakePlain(list);
     const std::vector<int> rows = list.SelectedRows();
     const std::int64_t wanted = std::max(distance, 0);
     {
@@ -129,7 +120,7 @@ void Ren_Rows_MoveSelected(Program& p, int distance, bool downward)
 void Ren_Rows_Group(Program& p)
 {
     ListView& list = p.main.lsvRename;
-    Order_MakePlain(list);
+    Ren_Order_MakePlain(list);
     const std::vector<int> rows = list.SelectedRows();
     {
         const ListFreezeGuard freeze(list);
@@ -158,6 +149,14 @@ void Ren_Marks_Clear(ListView& list)
 {
     for (int column = 0; column < list.ColumnCount(); ++column)
         list.SetColumnMark(column, SortMark::None);
+}
+
+void Ren_Order_MakePlain(ListView& list)
+{
+    if (!list.Sorted())
+        return;
+    Ren_Marks_Clear(list);
+    list.SetSorted(false);
 }
 
 } // namespace tavo

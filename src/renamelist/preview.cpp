@@ -160,6 +160,7 @@ void Row_Click(Program& p)
     if (row == 0)
         return;
     p.state.CurRow = std::to_string(row);
+    p.RowTaken(row);
     Row_Take(p, row);
     p.state.CurFile = p.state.FullName;
     const ModeShow* show = Show_Of(p);

@@ -47,6 +47,9 @@ void Ren_Row_Move(Program& p, int from, int to);
 void Ren_Date_Swap(Program& p, ListView& list, int column, bool sortable);
 // Takes away the sort marks of all headers.
 void Ren_Marks_Clear(ListView& list);
+// What is arranged by hand is no longer in the order of a column: marks and
+// sorting go.
+void Ren_Order_MakePlain(ListView& list);
 
 // Walks (list_refresh.cpp), run by the driver as actions 2 and 3.
 // Size, type and date of each row anew; rows whose file is gone go.

@@ -10,37 +10,28 @@ namespace tavo {
 
 namespace {
 
-PictureRef Icon_Picture(char letter)
-{
-    PictureRef picture;
-    picture.Shown = PictureRef::Kind::Icon;
-    picture.Icon = letter;
-    picture.WidthPixels = picture.HeightPixels = 16;
-    return picture;
-}
-
 // What the ending of the path decides before any file is opened; a name
 // shorter than the ending goes the other way.
 PictureRef Preview_Picture(Program& p, const std::string& path)
 {
     const std::string ending = UCase(Right(path, 3));
     if (ending == "GIF" && p.state.Gif == 0)
-        return Icon_Picture('F');
+        return PictureRef::OfIcon('F', smallIconPixels);
     if (ending == "MP3")
-        return Icon_Picture('M');
-    PictureRef picture;
-    if (!p.desktop.LoadPicture(path, picture.WidthPixels, picture.HeightPixels))
-        return Icon_Picture('F');
-    picture.Shown = PictureRef::Kind::Bitmap;
-    picture.Path = path;
-    return picture;
+        return PictureRef::OfIcon('M', smallIconPixels);
+    // It is only ever shown shrunk, so more dots than the screen has are wasted.
+    const double twips = p.desktop.TwipsPerPixel();
+    const auto bitmap =
+        p.desktop.LoadPicture(path, {static_cast<int>(p.desktop.ScreenWidth() / twips),
+                                     static_cast<int>(p.desktop.ScreenHeight() / twips)});
+    return bitmap ? PictureRef::OfBitmap(bitmap) : PictureRef::OfIcon('F', smallIconPixels);
 }
 
 } // namespace
 
 void Sel_Preview_Show(Program& p, const std::string& path)
 {
-    PictureBox& image = p.main.imgSelPreview;
+    ImageBox& image = p.main.imgSelPreview;
     image.Visible = false;
     image.Stretch = false;
     image.Picture = Preview_Picture(p, path);

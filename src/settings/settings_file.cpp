@@ -6,6 +6,7 @@
 #include "settings/named_lists.h"
 #include "settings/settings_table.h"
 #include "settings/window_layout.h"
+#include "thumbnails/thumb_grid.h"
 #include "thumbnails/thumb_look.h"
 #include "toolkit/numbers.h"
 #include "toolkit/text.h"
@@ -128,8 +129,7 @@ void Schemes_Load(Program& p, const std::string& section, const std::string& fil
     Ini_ReadList(p, section, p.state.ThumbSchemes, file, 30);
     p.state.ThumbSchemes[0] = {std::string(builtIn), std::string(defaultScheme)};
     p.state.Scheme = builtIn;
-    p.state.ThumbCaption = true;
-    Tool_Check(p, "ID_AlignCenter", true);
+    Thumb_Look_Begin(p);
     p.main.tmrRedrawThumbs.Interval = redrawDelayMs;
     Menu_Rebuild(p.main.atbMain, p.state.ThumbSchemes, "image-x-generic", "ID_Scheme", 4,
                  "ID_mnuTSchemes");

@@ -3,6 +3,7 @@
 #include "settings/settings_file.h"
 #include "settings/settings_table.h"
 #include "settings/window_layout.h"
+#include "viewer/frm_viewer.h"
 
 namespace tavo {
 
@@ -39,12 +40,18 @@ void CaseWords_Save(Program& p, const std::string& section, const std::string& f
         Ini_Put(p, section, std::to_string(row), p.state.CaseWordList[row], file);
 }
 
+// The viewer's place is written and never read back: it opens in the middle. One
+// that was not used yet is loaded for its place there.
 void Position_Save(Program& p, const std::string& section, const std::string& file)
 {
-    const bool isWanted = p.state.SavePos == 1;
-    Ini_Put(p, section, "Main", isWanted ? Pos_Text(p.main) : std::string(nowhereRecord), file);
-    Ini_Put(p, section, "Viewer",
-            isWanted ? Pos_Text(p.state.ViewerPos) : std::string(nowhereRecord), file);
+    std::string main(nowhereRecord), viewer(nowhereRecord);
+    if (p.state.SavePos == 1) {
+        p.Viewer().EnsureLoaded();
+        main = Pos_Text(p.main);
+        viewer = Pos_Text(p.Viewer());
+    }
+    Ini_Put(p, section, "Main", main, file);
+    Ini_Put(p, section, "Viewer", viewer, file);
 }
 
 struct Section {

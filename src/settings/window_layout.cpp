@@ -4,6 +4,7 @@
 #include "core/program.h"
 #include "selection/paths.h"
 #include "toolkit/numbers.h"
+#include "viewer/frm_viewer.h"
 
 #include <cmath>
 #include <cstdint>
@@ -72,6 +73,8 @@ void Win_Layout_Apply(Program& p, const std::string& record)
 {
     std::string rest = record;
     Place_Apply(p.main, Place_Take(rest));
+    if (FrmViewer* viewer = p.ViewerInSight())
+        Place_Apply(*viewer, Place_Take(rest));
 }
 
 } // namespace tavo

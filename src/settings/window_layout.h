@@ -21,7 +21,8 @@ std::string Pos_Text(const WindowPos& pos);
 
 // Puts the windows where a layout record has them. The record has ten fields:
 // left, top, width, height (twips) and state (0 normal, 1 minimised, 2
-// maximised, 3 as it is) of the main window, then those of the viewer.
+// maximised, 3 as it is) of the main window, then those of the viewer, which
+// count while it is in sight.
 void Win_Layout_Apply(Program& p, const std::string& record);
 
 } // namespace tavo

@@ -45,7 +45,7 @@ public:
     void PropertyChanged(Prop what) override;
 
 protected:
-    bool IsEditable() const override { return style_ == ComboKind::Editable; }
+    bool IsEditable() const override { return style_ == ComboKind::Editable && !Locked; }
 
 private:
     void TakeRow(int index);

@@ -20,6 +20,7 @@ constexpr PropertyRow<Control> properties[] = {
     {"Tag", [](const Control& c) { return c.Tag.Get(); }},
     {"BackColor", [](const Control& c) { return IntToText(c.BackColor); }},
     {"ForeColor", [](const Control& c) { return IntToText(c.ForeColor); }},
+    {"DragIcon", [](const Control& c) { return IntToText(c.DragIcon); }},
 };
 
 } // namespace
@@ -33,6 +34,8 @@ Control::Control(Form& form, std::string name, int index)
 Control::~Control()
 {
     form_.Remove(this);
+    if (Container)
+        Container->ContentChanged();
 }
 
 std::string Control::FullName() const
@@ -80,6 +83,8 @@ bool Control::PersonPress()
     // To leave the other control may have taken this one out of reach.
     if (!IsShown() || !IsUsable())
         return false;
+    if (DragsItself)
+        return false;
     const Mouse middle{1, shiftNone, ScaleWidth() / 2, ScaleHeight() / 2};
     MouseDown(middle);
     MouseUp(middle);
@@ -96,6 +101,13 @@ std::optional<std::string> Control::PropertyText(std::string_view property) cons
 void Control::PropertyChanged(Prop what)
 {
     Changed(what);
+    if (Container)
+        Container->ContentChanged();
+}
+
+void Control::Drag()
+{
+    form_.BeginDrag(*this);
 }
 
 double Control::InTwips(double length) const

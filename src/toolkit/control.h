@@ -13,6 +13,7 @@ namespace tavo {
 
 class Control;
 class Form;
+struct PictureRef;
 
 // What of a control has changed; a host that hears it reads the control anew.
 enum class Prop {
@@ -116,11 +117,25 @@ public:
 
     // Position in the control's own scale from its corner.
     struct Mouse {
-        int Button = 1; // 1 left, 2 right
+        int Button = 1; // 1 left, 2 right, 0 none in a move
         int Shift = shiftNone;
         double X = 0, Y = 0;
     };
     Event<const Mouse&> MouseDown, MouseMove, MouseUp;
+
+    // Dragging controls: one is the source, what lies under the pointer is told
+    // of it. The source shows what would become of it by the number of a
+    // pointer picture of the program, -1 for the plain one.
+    enum class DragState { Enter = 0, Leave = 1, Over = 2 };
+    Event<Control&, const Mouse&, DragState> DragOver; // the source first
+    Event<Control&, const Mouse&> DragDrop;
+    Property<int> DragIcon{*this, Prop::State, -1};
+    // A press on it begins its drag, and raises nothing.
+    bool DragsItself = false;
+    // Begins a drag of this control, from its handler of a mouse event.
+    void Drag();
+    // Does it catch the mouse, or is it only seen?
+    virtual bool TakesMouse() const { return true; }
 
     // For the host: something of the control has changed.
     Event<Prop> Changed;
@@ -152,11 +167,17 @@ public:
     // Alt and that letter.
     virtual void PersonMnemonic() { PersonClick(); }
 
+    // What it shows; null for a control that shows no pictures.
+    virtual const PictureRef* ShownPicture() const { return nullptr; }
+
     // The scale inside it, where it has one of its own, and the twips of one
     // of its units.
     virtual double ScaleWidth() const { return Width; }
     virtual double ScaleHeight() const { return Height; }
     virtual double UnitTwips() const { return 1; }
+
+    // A control that lies in it has changed, or come or gone.
+    virtual void ContentChanged() {}
 
     // Called by the properties when one has changed. Kinds of controls raise
     // their events here, behind the notice to the host.

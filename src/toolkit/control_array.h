@@ -2,6 +2,7 @@
 
 #include "toolkit/control.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -15,11 +16,23 @@ template <class T>
 class ControlArray {
 public:
     template <class... Args>
-    ControlArray(Form& form, const std::string& name, int low, int high, Args... args) : low_(low)
+    ControlArray(Form& form, const std::string& name, int low, int high, Args... args)
+        : low_(low), make_([&form, name, args...](int index) {
+              return std::make_unique<T>(form, name, index, args...);
+          })
     {
-        for (int index = low; index <= high; ++index)
-            items_.push_back(std::make_unique<T>(form, name, index, args...));
+        while (High() < high)
+            Load();
     }
+
+    // One more element, behind the last one.
+    T& Load()
+    {
+        items_.push_back(make_(High() + 1));
+        return *items_.back();
+    }
+    // Ends the last one.
+    void Unload() { items_.pop_back(); }
 
     int Low() const { return low_; }
     int High() const { return low_ + static_cast<int>(items_.size()) - 1; }
@@ -34,6 +47,7 @@ public:
 
 private:
     int low_;
+    std::function<std::unique_ptr<T>(int index)> make_;
     std::vector<std::unique_ptr<T>> items_;
 };
 

@@ -100,6 +100,24 @@ public:
     bool ArrayBounds(std::string_view name, int& low, int& high) const;
     const std::vector<Control*>& Controls() const { return controls_; }
 
+    // A drag of one control over others (see Control::DragOver). The host tells
+    // what is under the pointer; a control hidden or disabled is nothing.
+    void BeginDrag(Control& source);
+    Control* DragSource() const { return dragSource_; }
+    Control* DragTarget() const { return dragTarget_; }
+    // X and Y in the target's own scale. Null is no control at all.
+    void PersonDragOver(Control* target, double x, double y);
+    // Let go where it was last.
+    void PersonDragDrop();
+    // Given up: what it was over is left.
+    void PersonDragCancel();
+    Event<> DragChanged; // for the host: a drag has begun or ended
+
+    // The control in sight at a place in `container`'s own scale, the one made
+    // last on top; the container where there is none. `x` and `y` become the
+    // place in the control's own scale.
+    Control& ControlAt(Control& container, double& x, double& y) const;
+
     // The tool bars of this form, where it has some.
     ToolBars* Bars = nullptr;
     Control* DefaultButton = nullptr;
@@ -145,6 +163,8 @@ private:
     bool visible_ = false, loaded_ = false, unloading_ = false, isActive_ = false;
     int frozen_ = 0;
     Control* active_ = nullptr;
+    Control *dragSource_ = nullptr, *dragTarget_ = nullptr;
+    Control::Mouse dragAt_;
     std::vector<Control*> controls_;
 };
 

@@ -101,6 +101,8 @@ void Form::PersonKey(Control* target, Key key)
 
 bool Form::FilterKey(Control* target, Key& key)
 {
+    if (dragSource_ && key.Code == keyEscape)
+        PersonDragCancel();
     KeyDown(key);
     if (key.Code == keyNone)
         return false;

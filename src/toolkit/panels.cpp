@@ -35,6 +35,16 @@ constexpr PropertyRow<PictureBox> pictureProperties[] = {
     {"ScaleWidth", [](const PictureBox& p) { return Length_Text(p.ScaleWidth()); }},
     {"ScaleHeight", [](const PictureBox& p) { return Length_Text(p.ScaleHeight()); }},
 };
+constexpr PropertyRow<ImageBox> imageProperties[] = {
+    {"MousePointer", [](const ImageBox& i) { return IntToText(i.MousePointer); }},
+};
+constexpr PropertyRow<PictureButton> pictureButtonProperties[] = {
+    {"Picture", [](const PictureButton& b) { return Picture_Text(b.Picture); }},
+};
+constexpr PropertyRow<Shape> shapeProperties[] = {
+    {"BorderColor", [](const Shape& s) { return IntToText(s.BorderColor); }},
+    {"BorderWidth", [](const Shape& s) { return IntToText(s.BorderWidth); }},
+};
 constexpr PropertyRow<ProgressBar> progressProperties[] = {
     {"Min", [](const ProgressBar& p) { return Length_Text(p.Min); }},
     {"Max", [](const ProgressBar& p) { return Length_Text(p.Max); }},
@@ -57,6 +67,19 @@ int PanelNumber(std::string_view property)
 }
 
 } // namespace
+
+PictureRef PictureRef::OfIcon(char letter, int pixels)
+{
+    return {Kind::Icon, letter, pixels, pixels, nullptr};
+}
+
+PictureRef PictureRef::OfBitmap(BitmapPtr bitmap)
+{
+    if (!bitmap)
+        return {};
+    const int width = bitmap->Width(), height = bitmap->Height();
+    return {Kind::Bitmap, 0, width, height, std::move(bitmap)};
+}
 
 void Label::PersonMnemonic()
 {
@@ -88,6 +111,36 @@ double PictureBox::ScaleHeight() const
 std::optional<std::string> PictureBox::PropertyText(std::string_view property) const
 {
     const auto text = PropertyTable_Text(pictureProperties, *this, property);
+    return text ? text : Control::PropertyText(property);
+}
+
+void ImageBox::PropertyChanged(Prop what)
+{
+    const PictureRef& picture = Picture;
+    const bool follows = what == Prop::Picture || what == Prop::Style;
+    if (follows && !Stretch && picture.Shown != PictureRef::Kind::None) {
+        const double unit = Container ? Container->UnitTwips() : 1;
+        Width = picture.WidthPixels * TwipsPerPixel / unit;
+        Height = picture.HeightPixels * TwipsPerPixel / unit;
+    }
+    PictureBox::PropertyChanged(what);
+}
+
+std::optional<std::string> ImageBox::PropertyText(std::string_view property) const
+{
+    const auto text = PropertyTable_Text(imageProperties, *this, property);
+    return text ? text : PictureBox::PropertyText(property);
+}
+
+std::optional<std::string> PictureButton::PropertyText(std::string_view property) const
+{
+    const auto text = PropertyTable_Text(pictureButtonProperties, *this, property);
+    return text ? text : CommandButton::PropertyText(property);
+}
+
+std::optional<std::string> Shape::PropertyText(std::string_view property) const
+{
+    const auto text = PropertyTable_Text(shapeProperties, *this, property);
     return text ? text : Control::PropertyText(property);
 }
 

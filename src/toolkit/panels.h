@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/bitmap.h"
+#include "toolkit/buttons.h"
 #include "toolkit/control.h"
 
 #include <vector>
@@ -34,16 +36,24 @@ public:
 class Line : public Control {
 public:
     using Control::Control;
+    bool TakesMouse() const override { return false; }
 };
 
+// Class icons beside a row, and in place of a picture.
+inline constexpr int smallIconPixels = 16, largeIconPixels = 32;
+
 // What a picture control shows: nothing, one of the class icons by its letter,
-// or a picture of a file by its size.
+// or a picture.
 struct PictureRef {
     enum class Kind { None, Icon, Bitmap } Shown = Kind::None;
     char Icon = 0;
     int WidthPixels = 0, HeightPixels = 0;
-    std::string Path;
+    BitmapPtr Dots;
     friend bool operator==(const PictureRef&, const PictureRef&) = default;
+
+    static PictureRef OfIcon(char letter, int pixels);
+    // Nothing for null.
+    static PictureRef OfBitmap(BitmapPtr bitmap);
 };
 
 // A picture; as a box it can hold other controls, in twips or in pixels.
@@ -57,9 +67,44 @@ public:
     // Its border takes this off each side, in twips.
     double BorderTwips = 0;
 
+    // For the host: a control that lies in it has changed, or come or gone.
+    Event<> InsideChanged;
+
     double ScaleWidth() const override;
     double ScaleHeight() const override;
     double UnitTwips() const override { return PixelScale ? TwipsPerPixel : 1; }
+    void ContentChanged() override { InsideChanged(); }
+    const PictureRef* ShownPicture() const override { return &Picture.Get(); }
+    std::optional<std::string> PropertyText(std::string_view property) const override;
+};
+
+// A picture without a surface of its own: while it is not stretched it takes the
+// size of what it shows, and keeps it when that goes.
+class ImageBox : public PictureBox {
+public:
+    using PictureBox::PictureBox;
+    // The pointer over it, by the number of its shape; 0 is the default.
+    Property<int> MousePointer{*this, Prop::Style};
+    void PropertyChanged(Prop what) override;
+    std::optional<std::string> PropertyText(std::string_view property) const override;
+};
+
+// A button with a picture on its face.
+class PictureButton : public CommandButton {
+public:
+    using CommandButton::CommandButton;
+    Property<PictureRef> Picture{*this, Prop::Picture};
+    const PictureRef* ShownPicture() const override { return &Picture.Get(); }
+    std::optional<std::string> PropertyText(std::string_view property) const override;
+};
+
+// A rectangle behind other controls, which takes no part in what a person does.
+class Shape : public Control {
+public:
+    using Control::Control;
+    Property<std::int32_t> BorderColor{*this, Prop::Colours, static_cast<std::int32_t>(0x80000008)};
+    Property<int> BorderWidth{*this, Prop::Style, 1}; // pixels
+    bool TakesMouse() const override { return false; }
     std::optional<std::string> PropertyText(std::string_view property) const override;
 };
 

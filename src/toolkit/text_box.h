@@ -13,6 +13,10 @@ public:
     Property<std::string> Text{*this, Prop::Text};
     // The longest text that a person can bring in, in characters; 0 is any.
     Property<int> MaxLength{*this, Prop::State};
+    // A person can read, select and copy it, and change nothing.
+    Property<bool> Locked{*this, Prop::Style};
+    // Is it shown in several lines?
+    bool MultiLine = false;
 
     int SelStart() const { return selStart_; }
     int SelLength() const { return selLength_; }
@@ -43,7 +47,7 @@ public:
 
 protected:
     // Can a person edit the text at all?
-    virtual bool IsEditable() const { return true; }
+    virtual bool IsEditable() const { return !Locked; }
     // Brings the selection in line with a text that is another now.
     void SettleSelection();
 

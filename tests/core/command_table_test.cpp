@@ -18,13 +18,9 @@ const Ids inert = {"ID_ThumbShow",  "ID_ListShow", "ID_ArrangeLarge", "ID_Arrang
                    "ID_mnuCaption", "ID_Wizard"};
 
 // Tools whose dialogs, pictures or files are still to be built.
-const Ids stillToCome = {
-    "ID_ExportList",     "ID_Settings",       "ID_FilAdd",         "ID_Viewer",
-    "ID_ViewerUp",       "ID_TmpOrg",         "ID_FavAdd",         "ID_FavOrganize",
-    "ID_WinAdd",         "ID_WinOrganize",    "ID_About",          "ID_ThumbLayout",
-    "ID_ThumbClear",     "ID_ThumbCreateAll", "ID_ThumbCreateSel", "ID_ThumbUpdateAll",
-    "ID_ThumbUpdateSel", "ID_ThumbCaption",   "ID_AlignLeft",      "ID_AlignRight",
-    "ID_AlignCenter",    "ID_TSchemesOrg",    "ID_TSchemesAdd",    "ID_TSchemesDef"};
+const Ids stillToCome = {"ID_ExportList", "ID_Settings",    "ID_FilAdd",      "ID_TmpOrg",
+                         "ID_FavAdd",     "ID_FavOrganize", "ID_WinAdd",      "ID_WinOrganize",
+                         "ID_About",      "ID_ThumbLayout", "ID_TSchemesOrg", "ID_TSchemesAdd"};
 
 bool IsClickable(const Command& command)
 {

@@ -2,6 +2,7 @@
 
 #include "core/screens.h"
 #include "support/program_rig.h"
+#include "viewer/frm_viewer.h"
 
 #include <gtest/gtest.h>
 
@@ -389,6 +390,34 @@ TEST_F(CommandsCase, The_default_size_brings_the_window_to_the_middle_of_the_scr
     EXPECT_EQ(p.main.Left(), (28800 - 12000) / 2.0);
     EXPECT_EQ(p.main.Top(), (16200 - 9000) / 2.0);
     EXPECT_EQ(rig.Desktop.Foregrounds, std::vector<std::string>{"frmMain"});
+}
+
+TEST_F(CommandsCase, The_default_size_makes_a_viewer_in_sight_a_square_beside_the_window)
+{
+    Program& p = StartWithList();
+    rig.Click("ID_Viewer");
+    p.Viewer().SetState(WindowState::Maximised);
+    rig.Click("ID_DefaultSize");
+    EXPECT_EQ(p.Viewer().State(), WindowState::Normal);
+    EXPECT_EQ(p.Viewer().Left(), p.main.Left());
+    EXPECT_EQ(p.Viewer().Top(), p.main.Top() - 360);
+    EXPECT_EQ(p.Viewer().Width(), 9000);
+    EXPECT_EQ(p.Viewer().Height(), 9000);
+    EXPECT_EQ(rig.Desktop.Foregrounds, std::vector<std::string>{"frmMain"});
+    p.Viewer().PersonClose();
+    p.Viewer().Move(150, 300, 4500, 3000);
+    rig.Click("ID_DefaultSize");
+    EXPECT_EQ(p.Viewer().Width(), 4500) << "out of sight it stays";
+}
+
+TEST_F(CommandsCase, The_default_size_leaves_a_minimised_viewer_minimised)
+{
+    Program& p = StartWithList();
+    rig.Click("ID_Viewer");
+    p.Viewer().SetState(WindowState::Minimised);
+    rig.Click("ID_DefaultSize");
+    EXPECT_EQ(p.Viewer().State(), WindowState::Minimised);
+    EXPECT_EQ(p.Viewer().Width(), 9000);
 }
 
 TEST_F(CommandsCase, The_saved_defaults_are_loaded_from_the_own_file_alone)

@@ -162,24 +162,44 @@ TEST_F(Layout, The_action_panel_keeps_its_controls_in_the_middle)
     EXPECT_EQ(controls.Top, (8000 - top - controls.Height) / 2);
 }
 
-TEST_F(Layout, The_thumbnails_are_drawn_once_after_a_burst_of_resizes)
+TEST_F(Layout, The_thumbnails_are_laid_out_once_after_a_burst_of_resizes)
 {
     ToRename(modeNameNumber);
+    program.state.RenCount = 1;
     EXPECT_FALSE(main.tmrRedrawThumbs.Enabled);
     Screen_Show(program, screenThumbnails, false);
-    int drawn = 0;
-    const Connection listener = program.RowsRedrawn.Listen([&] { ++drawn; });
     for (const double width : {9100.0, 9200.0, 9300.0})
         Size(width, 8300);
-    EXPECT_EQ(drawn, 0);
+    EXPECT_EQ(program.state.Columns, 0);
     EXPECT_TRUE(main.tmrRedrawThumbs.Enabled);
     EXPECT_EQ(main.tmrRedrawThumbs.Interval, 100);
     main.tmrRedrawThumbs.Tick();
-    EXPECT_EQ(drawn, 1);
+    EXPECT_GT(program.state.Columns, 0);
     EXPECT_FALSE(main.tmrRedrawThumbs.Enabled);
     const double top = main.ctlRbRenMode[modeNameNumber].Height;
     EXPECT_EQ(main.picThumbnails.Top, top);
     EXPECT_EQ(main.picThumbnails.Width, 9300);
+}
+
+TEST_F(Layout, The_grid_lies_between_side_column_strips_and_scroll_bar)
+{
+    ToRename(modeNameNumber);
+    Screen_Show(program, screenThumbnails, false);
+    Size(9300, 8300);
+    const PictureBox &page = main.picThumbnails, &grid = main.picThumbs;
+    EXPECT_EQ(grid.Left, main.shpThumbsSelC.Left + main.shpThumbsSelC.Width + 120);
+    EXPECT_EQ(main.vsbThumbs.Left, grid.Left + grid.Width);
+    EXPECT_EQ(main.vsbThumbs.Left + main.vsbThumbs.Width, page.Width);
+    EXPECT_EQ(main.vsbThumbs.Height, page.Height);
+    EXPECT_EQ(main.lblThumbsSD.Top, 0);
+    EXPECT_EQ(main.lblThumbsSD.Height, 240);
+    EXPECT_EQ(grid.Top, 240);
+    EXPECT_EQ(main.lblThumbsSU.Top, grid.Top + grid.Height);
+    EXPECT_EQ(main.lblThumbsSU.Top + main.lblThumbsSU.Height, page.Height);
+    for (const Label* strip : {&main.lblThumbsSD, &main.lblThumbsSU}) {
+        EXPECT_EQ(strip->Left, grid.Left);
+        EXPECT_EQ(strip->Width, grid.Width);
+    }
 }
 
 TEST_F(Layout, Nothing_moves_while_resizing_is_off)

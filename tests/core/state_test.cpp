@@ -33,7 +33,7 @@ TEST(State, Variables_start_as_the_program_begins)
         {"ActPaused", "False"},    {"ClockFlag", "False"},   {"DragX", "2147483647"},
         {"DragY", "2147483647"},   {"SplitX", "2147483647"}, {"SplitY", "2147483647"},
         {"MinWidth", "6732"},      {"ClientW", "0"},         {"ClientH", "0"},
-        {"ThumbCaption", "False"}, {"StartPath", ""}};
+        {"ThumbCaption", "True"},  {"StartPath", ""}};
     const SharedState state;
     for (const Row& row : rows)
         EXPECT_EQ(Text_Of(state, row.Name), row.Text) << row.Name;

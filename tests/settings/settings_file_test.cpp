@@ -320,10 +320,10 @@ TEST_F(SettingsFile, Reading_the_schemes_puts_the_built_in_one_in_force)
 {
     Program& p = rig.Start();
     p.state.Scheme = "mine";
-    p.state.ThumbCaption = false;
+    p.state.ThumbLook.CaptionShown = false;
     Ini_Load(p, "ThumbSchemes", "/app/Tavo.ini");
     EXPECT_EQ(p.state.Scheme, "Tavo Default");
-    EXPECT_TRUE(p.state.ThumbCaption);
+    EXPECT_TRUE(p.state.ThumbLook.CaptionShown);
     EXPECT_TRUE(p.main.atbMain.Find("ID_AlignCenter")->Checked);
     EXPECT_EQ(p.main.tmrRedrawThumbs.Interval, 100);
 }

@@ -3,6 +3,7 @@
 
 #include "core/screens.h"
 #include "support/program_rig.h"
+#include "viewer/frm_viewer.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +24,7 @@ std::string Untouched_File(const std::string& path, const char* end)
                          "[Settings]\nSavePos=1\nSaveDef=1\nactClose=0\nShowFile=1\nSetDigits=0\n"
                          "PreList=1\nProExt=1\nSupWarnRen=0\nSupWarnUndo=0\nAutoSelNext=1\n"
                          "AutoThumbs=0\nRetRename=1\n"
-                         "[Position]\nMain=8400,3600,12000,9000,0\nViewer=0,0,0,0,0\n";
+                         "[Position]\nMain=8400,3600,12000,9000,0\nViewer=9600,4500,9600,7200,0\n";
     std::string lines;
     for (const char c : text)
         lines += c == '\n' ? std::string(end) : std::string(1, c);
@@ -203,7 +204,7 @@ TEST_P(SettingsSave, A_window_that_is_maximised_keeps_its_normal_place)
     rig.Main().Move(150, 300.5, 9000, 6000);
     rig.Main().SetState(WindowState::Maximised);
     rig.Main().Unload();
-    EXPECT_EQ(Section("Position"), "Main=150,300.5,9000,6000,2\nViewer=0,0,0,0,0\n");
+    EXPECT_EQ(Section("Position"), "Main=150,300.5,9000,6000,2\nViewer=9600,4500,9600,7200,0\n");
 }
 
 TEST_P(SettingsSave, Without_the_wish_a_saved_position_is_zero)
@@ -213,11 +214,32 @@ TEST_P(SettingsSave, Without_the_wish_a_saved_position_is_zero)
     EXPECT_EQ(Section("Position"), "Main=0,0,0,0,0\nViewer=0,0,0,0,0\n");
 }
 
-TEST_P(SettingsSave, The_viewers_place_is_handed_on)
+TEST_P(SettingsSave, The_place_of_a_viewer_never_used_is_the_middle_whatever_was_read)
 {
-    rig.Start("", "[Position]\nViewer=10,20,30,40,2\n");
+    Program& p = rig.Start("", "[Position]\nViewer=10,20,30,40,2\n");
+    EXPECT_EQ(p.state.ViewerPos.Width, 30);
     rig.Main().Unload();
-    EXPECT_NE(Section("Position").find("Viewer=10,20,30,40,2\n"), std::string::npos);
+    EXPECT_NE(Section("Position").find("Viewer=9600,4500,9600,7200,0\n"), std::string::npos);
+    EXPECT_FALSE(p.Viewer().Loaded());
+}
+
+TEST_P(SettingsSave, The_viewers_place_is_written_out_of_sight_too)
+{
+    Program& p = rig.Start();
+    Viewer_Open(p, 0);
+    p.Viewer().Move(150, 300, 4500.5, 6000);
+    p.Viewer().SetState(WindowState::Maximised);
+    p.Viewer().PersonClose();
+    Ini_Save(p, "Position", file);
+    EXPECT_NE(Section("Position").find("Viewer=150,300,4500.5,6000,2\n"), std::string::npos);
+    EXPECT_TRUE(p.Viewer().Loaded());
+}
+
+TEST_P(SettingsSave, Without_the_wish_no_viewer_is_made_for_it)
+{
+    Program& p = rig.Start("", "[Settings]\nSavePos=0\n");
+    Ini_Save(p, "Position", file);
+    EXPECT_EQ(Viewer_Find(p), nullptr);
 }
 
 TEST_P(SettingsSave, A_disk_that_refuses_leaves_the_old_file_and_ends_the_program)

@@ -1,6 +1,7 @@
 #include "settings/window_layout.h"
 
 #include "support/program_rig.h"
+#include "viewer/frm_viewer.h"
 
 #include <gtest/gtest.h>
 
@@ -69,6 +70,55 @@ TEST(WindowLayout, Its_entry_in_the_menu_applies_it)
     EXPECT_EQ(Pos_Text(p.main), "15,30,7500,4500,0");
     rig.Click("ID_Window2");
     EXPECT_EQ(p.main.State(), WindowState::Maximised);
+}
+
+// The viewer stands at 150,300 with 9000 x 6000, normal, before each.
+constexpr Row viewerRows[] = {
+    {"all fields", "0,0,0,0,0,15,30,7500,4500,0", "15,30,7500,4500,0"},
+    {"zeros move nothing", "15,30,7500,4500,0,0,0,0,0,0", "150,300,9000,6000,0"},
+    {"taken while maximised", "0,0,0,0,0,0,0,0,0,2", "150,300,9000,6000,2"},
+    {"a place with another state is not gone to", "0,0,0,0,0,15,30,7500,4500,1",
+     "150,300,9000,6000,1"},
+    {"a width below 1", "0,0,0,0,0,15,30,0.9,4500,0", "150,300,9000,6000,0"},
+    {"no fields of its own", "15,30,7500,4500,0", "150,300,9000,6000,0"},
+    {"without its state", "0,0,0,0,0,15,30,7500,4500", "150,300,9000,6000,0"},
+    {"nothing at all", "", "150,300,9000,6000,0"},
+};
+
+TEST(WindowLayout, A_record_places_the_viewer_while_it_is_in_sight)
+{
+    ProgramRig rig(MemoryDisk::Flavour::Posix);
+    Program& p = rig.Start();
+    Viewer_Open(p, 0);
+    for (const Row& row : viewerRows) {
+        p.Viewer().SetState(WindowState::Normal);
+        p.Viewer().Move(150, 300, 9000, 6000);
+        Win_Layout_Apply(p, row.Record);
+        EXPECT_EQ(Pos_Text(p.Viewer()), row.Place) << row.What;
+    }
+}
+
+TEST(WindowLayout, A_record_without_a_state_leaves_a_maximised_viewer_alone)
+{
+    ProgramRig rig(MemoryDisk::Flavour::Posix);
+    Program& p = rig.Start();
+    Viewer_Open(p, 0);
+    p.Viewer().SetState(WindowState::Maximised);
+    Win_Layout_Apply(p, "0,0,0,0,0,15,30,7500,4500");
+    EXPECT_EQ(p.Viewer().State(), WindowState::Maximised);
+}
+
+TEST(WindowLayout, A_viewer_out_of_sight_stays_where_it_is)
+{
+    ProgramRig rig(MemoryDisk::Flavour::Posix);
+    Program& p = rig.Start();
+    Win_Layout_Apply(p, "0,0,0,0,0,15,30,7500,4500,0");
+    EXPECT_EQ(Viewer_Find(p), nullptr);
+    Viewer_Open(p, 0);
+    const std::string place = Pos_Text(p.Viewer());
+    p.Viewer().PersonClose();
+    Win_Layout_Apply(p, "0,0,0,0,0,15,30,7500,4500,2");
+    EXPECT_EQ(Pos_Text(p.Viewer()), place);
 }
 
 } // namespace

@@ -141,15 +141,19 @@ bool ScriptedDesktop::ShellExecuteA(const std::string& verb, const std::string& 
     return false;
 }
 
-bool ScriptedDesktop::LoadPicture(const std::string& path, int& widthPixels, int& heightPixels)
+BitmapPtr ScriptedDesktop::LoadPicture(const std::string& path, PictureBound)
 {
     PictureWishes.push_back(path);
     const auto picture = Pictures.find(path);
     if (picture == Pictures.end())
-        return false;
-    widthPixels = picture->second.Width;
-    heightPixels = picture->second.Height;
-    return true;
+        return nullptr;
+    return std::make_shared<Bitmap>(picture->second.Width, picture->second.Height);
+}
+
+BitmapPtr ScriptedDesktop::PaintPicture(const Bitmap&, int widthPixels, int heightPixels)
+{
+    Paintings.push_back({widthPixels, heightPixels});
+    return std::make_shared<Bitmap>(widthPixels, heightPixels);
 }
 
 void ScriptedDesktop::DragFiles(Control& source, const std::vector<std::string>& paths)

@@ -44,6 +44,9 @@ public:
     // What is chosen in a folder dialog; none is Cancel. And its titles so far.
     std::optional<std::string> FolderChoice;
     std::vector<std::string> FolderTitles;
+    // The same of a dialog that asks where to save.
+    std::optional<std::string> SaveChoice;
+    std::vector<SaveQuestion> SaveQuestions;
     // Why an address cannot be opened; empty lets it be opened.
     std::string ShellRefusal;
     // What can be read as a picture, with its size in pixels.
@@ -82,6 +85,7 @@ public:
     std::vector<Drag> Drags;
     std::vector<std::string> Foregrounds;   // names of the forms
     std::vector<std::string> PictureWishes; // paths, in order
+    std::vector<Picture> Paintings;         // sizes drawn, in order
     std::vector<Pointer> Pointers;          // every change, the last one in force
     std::string Clipboard;
 
@@ -109,9 +113,15 @@ public:
     std::string ClipboardText() override { return Clipboard; }
     void SetClipboardText(const std::string& text) override { Clipboard = text; }
     std::optional<std::string> SHBrowseForFolderA(const std::string& title) override;
+    std::optional<std::string> GetSaveFileNameA(const SaveQuestion& question) override
+    {
+        SaveQuestions.push_back(question);
+        return SaveChoice;
+    }
     bool ShellExecuteA(const std::string& verb, const std::string& address,
                        std::string& why) override;
-    bool LoadPicture(const std::string& path, int& widthPixels, int& heightPixels) override;
+    BitmapPtr LoadPicture(const std::string& path, PictureBound bound) override;
+    BitmapPtr PaintPicture(const Bitmap& picture, int widthPixels, int heightPixels) override;
     SystemTime Now() override { return Clock; }
     void DragFiles(Control& source, const std::vector<std::string>& paths) override;
 

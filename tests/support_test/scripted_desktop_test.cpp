@@ -142,11 +142,11 @@ TEST(ScriptedDesktop, A_picture_has_the_size_it_was_given)
 {
     ScriptedDesktop desktop;
     desktop.Pictures["/a.jpg"] = {640, 480};
-    int width = 0, height = 0;
-    EXPECT_FALSE(desktop.LoadPicture("/b.jpg", width, height));
-    EXPECT_TRUE(desktop.LoadPicture("/a.jpg", width, height));
-    EXPECT_EQ(width, 640);
-    EXPECT_EQ(height, 480);
+    EXPECT_EQ(desktop.LoadPicture("/b.jpg", {}), nullptr);
+    const BitmapPtr picture = desktop.LoadPicture("/a.jpg", {64, 64});
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(picture->Width(), 640);
+    EXPECT_EQ(picture->Height(), 480);
     EXPECT_EQ(desktop.PictureWishes, (Texts{"/b.jpg", "/a.jpg"}));
 }
 

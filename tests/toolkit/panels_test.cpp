@@ -96,19 +96,81 @@ TEST(PictureBox, Its_picture_prints_as_what_it_shows)
     Form form("frm");
     PictureBox box(form, "pic");
     EXPECT_EQ(box.PropertyText("Picture"), "none");
-    box.Picture = PictureRef{PictureRef::Kind::Icon, 'F', 0, 0, ""};
+    box.Picture = PictureRef::OfIcon('F', smallIconPixels);
     EXPECT_EQ(box.PropertyText("Picture"), "icon F");
-    box.Picture = PictureRef{PictureRef::Kind::Bitmap, 0, 80, 60, "/a.png"};
+    const auto one = std::make_shared<Bitmap>(80, 60), other = std::make_shared<Bitmap>(80, 60);
+    box.Picture = PictureRef::OfBitmap(one);
     EXPECT_EQ(box.PropertyText("Picture"), "80x60");
     EXPECT_EQ(box.PropertyText("Stretch"), "False");
     EXPECT_EQ(box.PropertyText("ScaleWidth"), "0");
     EXPECT_EQ(box.PropertyText("Caption"), std::nullopt);
     EventLog log;
     log.WatchNotice(box, Prop::Picture, "picture");
-    box.Picture = PictureRef{PictureRef::Kind::Bitmap, 0, 80, 60, "/a.png"};
+    box.Picture = PictureRef::OfBitmap(one);
     EXPECT_EQ(log.Take(), "");
-    box.Picture = PictureRef{PictureRef::Kind::Bitmap, 0, 80, 60, "/b.png"};
+    box.Picture = PictureRef::OfBitmap(other);
     EXPECT_EQ(log.Take(), "picture");
+}
+
+TEST(ImageBox, Takes_the_size_of_its_picture_while_it_is_not_stretched)
+{
+    Form form("frm");
+    PictureBox grid(form, "grid");
+    grid.PixelScale = true;
+    ImageBox inGrid(form, "a"), alone(form, "b");
+    inGrid.Container = &grid;
+    const auto picture = std::make_shared<Bitmap>(80, 60);
+    for (ImageBox* image : {&inGrid, &alone}) {
+        image->Move(5, 5, 7, 9);
+        image->Picture = PictureRef::OfBitmap(picture);
+        const double unit = image == &inGrid ? 1 : 15;
+        EXPECT_EQ(image->Width, 80 * unit);
+        EXPECT_EQ(image->Height, 60 * unit);
+        EXPECT_EQ(image->Left, 5);
+        image->Picture = PictureRef();
+        EXPECT_EQ(image->Width, 80 * unit) << "it keeps its size without a picture";
+        image->Stretch = true;
+        image->Picture = PictureRef::OfIcon('F', largeIconPixels);
+        EXPECT_EQ(image->Width, 80 * unit);
+        image->Stretch = false;
+        EXPECT_EQ(image->Width, 32 * unit);
+    }
+}
+
+TEST(PictureRef, Of_no_bitmap_is_nothing)
+{
+    EXPECT_EQ(PictureRef::OfBitmap(nullptr), PictureRef());
+}
+
+TEST(Shape, Its_border_prints)
+{
+    Form form("frm");
+    Shape shape(form, "shp");
+    shape.BorderColor = -2147483635;
+    shape.BorderWidth = 7;
+    EXPECT_EQ(shape.PropertyText("BorderColor"), "-2147483635");
+    EXPECT_EQ(shape.PropertyText("BorderWidth"), "7");
+    EXPECT_EQ(shape.PropertyText("Visible"), "True");
+    EXPECT_EQ(shape.PropertyText("Caption"), std::nullopt);
+}
+
+TEST(PictureBox, Tells_when_something_in_it_changes)
+{
+    Form form("frm");
+    PictureBox box(form, "pic");
+    EventLog log;
+    log.On(box.InsideChanged, "inside");
+    {
+        Label label(form, "lbl");
+        label.Container = &box;
+        label.Caption = "x";
+        EXPECT_EQ(log.Take(), "inside");
+        label.Caption = "x";
+        EXPECT_EQ(log.Take(), "");
+    }
+    EXPECT_EQ(log.Take(), "inside");
+    box.BackColor = 5;
+    EXPECT_EQ(log.Take(), "");
 }
 
 TEST(StatusBar, Panels_count_from_1)
