@@ -55,6 +55,8 @@ int main(int argc, char** argv)
     tavo::bench::Renames_Measure(plan);
     tavo::bench::Changes_Measure(plan);
     tavo::bench::Lists_Measure(plan);
+    tavo::bench::Pictures_Measure(plan);
+    tavo::bench::Grid_Measure(plan);
     tavo::bench::Folder_Remove(plan.Folder);
     tavo::bench::Print(plan);
 }

@@ -13,6 +13,9 @@ class QuietDesktop : public Desktop {
 public:
     // Called whenever a long work lets the person have a turn.
     std::function<void()> EachTurn;
+    // How pictures are read and drawn; without it none can be.
+    std::function<BitmapPtr(const std::string& path, PictureBound bound)> Load;
+    std::function<BitmapPtr(const Bitmap& picture, int width, int height)> Paint;
 
     void DoEvents() override
     {
@@ -39,7 +42,18 @@ public:
     {
         return true;
     }
-    bool LoadPicture(const std::string&, int&, int&) override { return false; }
+    std::optional<std::string> GetSaveFileNameA(const SaveQuestion&) override
+    {
+        return std::nullopt;
+    }
+    BitmapPtr LoadPicture(const std::string& path, PictureBound bound) override
+    {
+        return Load ? Load(path, bound) : nullptr;
+    }
+    BitmapPtr PaintPicture(const Bitmap& picture, int width, int height) override
+    {
+        return Paint ? Paint(picture, width, height) : nullptr;
+    }
     SystemTime Now() override { return {2024, 2, 4, 29, 13, 5, 7, 0}; }
     void DragFiles(Control&, const std::vector<std::string>&) override {}
 };

@@ -75,13 +75,14 @@ std::string Row_Name(int number)
     return text;
 }
 
-void Stand::FillRows(int count)
+void Rows_Fill(Program& p, int count)
 {
-    const SharedState& s = P.state;
-    Cols_Init(P);
-    Renames.DeleteAllItems();
-    Renames.SetSorted(false);
-    const ListFreezeGuard freeze(Renames);
+    const SharedState& s = p.state;
+    ListView& list = p.main.lsvRename;
+    Cols_Init(p);
+    list.DeleteAllItems();
+    list.SetSorted(false);
+    const ListFreezeGuard freeze(list);
     std::array<std::string_view, 7> cells;
     for (int row = 1; row <= count; ++row) {
         const std::string name = Row_Name(row);
@@ -95,7 +96,7 @@ void Stand::FillRows(int count)
         cells[s.colSize] = size;
         cells[s.colType] = "jpg";
         cells[s.colModified] = modified;
-        Renames.AddRow(cells.data(), static_cast<int>(cells.size()), "P");
+        list.AddRow(cells.data(), static_cast<int>(cells.size()), "P");
     }
 }
 

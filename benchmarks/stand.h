@@ -10,6 +10,9 @@
 
 namespace tavo::bench {
 
+// `count` rows in the rename list as a load would make them, without any files.
+void Rows_Fill(Program& p, int count);
+
 // The whole program on the real disk, with nobody in front of it. It asks no
 // questions and closes its panel by itself.
 class Stand {
@@ -41,7 +44,9 @@ public:
     // What is called at each turn of a run; nothing when empty.
     void Watch(std::function<void()> eachTurn) { desktop_.EachTurn = std::move(eachTurn); }
     // `count` rows as a load would make them, without any files.
-    void FillRows(int count);
+    void FillRows(int count) { Rows_Fill(P, count); }
+    // Where nobody looks, pictures are not read unless this is given.
+    QuietDesktop& Screen() { return desktop_; }
 };
 
 // The cells of a made-up row.

@@ -25,7 +25,12 @@ public:
     {
         return true;
     }
-    bool LoadPicture(const std::string&, int&, int&) override { return false; }
+    std::optional<std::string> GetSaveFileNameA(const SaveQuestion&) override
+    {
+        return std::nullopt;
+    }
+    BitmapPtr LoadPicture(const std::string&, PictureBound) override { return nullptr; }
+    BitmapPtr PaintPicture(const Bitmap&, int, int) override { return nullptr; }
     SystemTime Now() override { return {2024, 2, 4, 29, 13, 5, 7, 0}; }
     void DragFiles(Control&, const std::vector<std::string>&) override {}
 };

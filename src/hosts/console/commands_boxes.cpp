@@ -93,8 +93,6 @@ bool Do_Key(Session& session, const Words& words, Outcome& outcome)
     Key key;
     if (!Key_FromName(words[1], key))
         return outcome.Fail("unknown key " + words[1]);
-    if (key.Code == keyEscape)
-        session.DropAll();
     if (Form* const form = session.FindForm(words[0])) {
         if (!session.ReachForm(*form, outcome))
             return false;

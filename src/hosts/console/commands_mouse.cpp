@@ -1,6 +1,7 @@
 #include "core/program.h"
 #include "hosts/console/arguments.h"
 #include "hosts/console/commands.h"
+#include "toolkit/form.h"
 #include "toolkit/list_view.h"
 #include "toolkit/scroll_bar.h"
 
@@ -28,6 +29,40 @@ bool Read_Mouse(const Words& words, std::size_t from, Control::Mouse& mouse, Out
     return true;
 }
 
+// The control under a place that is told from the corner of another one, where
+// it may lie outside; null for none. The place becomes the found one's own.
+Control* Control_Under(Control& control, Control::Mouse& mouse)
+{
+    if (control.Container == nullptr)
+        return &control;
+    const double own = control.UnitTwips(), outer = control.Container->UnitTwips();
+    double x = control.Left + mouse.X * own / outer, y = control.Top + mouse.Y * own / outer;
+    if (x < 0 || y < 0 || x >= control.Container->ScaleWidth()
+        || y >= control.Container->ScaleHeight())
+        return nullptr;
+    Control& found = control.Owner().ControlAt(*control.Container, x, y);
+    mouse.X = x;
+    mouse.Y = y;
+    return &found;
+}
+
+void Mouse_Drags(Control& control, bool letsGo, Control::Mouse mouse)
+{
+    Form& form = control.Owner();
+    Control* const under = Control_Under(control, mouse);
+    form.PersonDragOver(under, mouse.X, mouse.Y);
+    if (letsGo)
+        form.PersonDragDrop();
+}
+
+void Mouse_Down(Control& control, const Control::Mouse& mouse)
+{
+    if (control.DragsItself)
+        return control.Drag();
+    control.SetFocus();
+    control.MouseDown(mouse);
+}
+
 bool Do_Mouse(Session& session, const Words& words, Outcome& outcome)
 {
     Control::Mouse mouse;
@@ -36,16 +71,20 @@ bool Do_Mouse(Session& session, const Words& words, Outcome& outcome)
         || !session.Reach(words[0], found, outcome))
         return false;
     Control& control = *found.Target;
-    if (words[1] == "down") {
-        control.SetFocus();
-        control.MouseDown(mouse);
-    } else if (words[1] == "move") {
-        control.MouseMove(mouse);
-    } else if (words[1] == "up") {
-        control.MouseUp(mouse);
-    } else {
+    const bool down = words[1] == "down", up = words[1] == "up";
+    if (!down && !up && words[1] != "move")
         return outcome.Fail("unknown word " + words[1]);
-    }
+    if (words[1] == "move")
+        mouse.Button = session.HeldButton;
+    session.HeldButton = down ? mouse.Button : up ? 0 : session.HeldButton;
+    if (down)
+        Mouse_Down(control, mouse);
+    else if (control.Owner().DragSource())
+        Mouse_Drags(control, up, mouse);
+    else if (up)
+        control.MouseUp(mouse);
+    else
+        control.MouseMove(mouse);
     return true;
 }
 
@@ -64,39 +103,68 @@ bool Do_Drop(Session& session, const Words& words, Outcome& outcome)
     return true;
 }
 
-// Both ends of a drag; the first must be a control that lets itself be
-// dragged. A drag that hovers goes on from where it is.
-bool Reach_Drag(Session& session, const Words& words, ListView*& from, Named& to, Outcome& outcome)
+// From a list its selected rows are dragged, out of the window or onto a list.
+void List_Drag(Session& session, ListView& from, Control& to)
+{
+    session.desktop.Dragged.clear();
+    session.desktop.DropTarget = &to;
+    from.DragStarted();
+    session.desktop.DropTarget = nullptr;
+}
+
+// Presses in the middle and moves far enough that nobody could take it for a
+// click.
+bool Drag_Begin(const std::string& name, Control& from, Outcome& outcome)
+{
+    constexpr double farTwips = 3000;
+    Form& form = from.Owner();
+    Control::Mouse mouse{1, shiftNone, from.ScaleWidth() / 2, from.ScaleHeight() / 2};
+    form.PersonDragCancel();
+    Mouse_Down(from, mouse);
+    mouse.X += farTwips;
+    if (form.DragSource() == nullptr)
+        from.MouseMove(mouse);
+    if (form.DragSource() != &from)
+        return outcome.Fail(name + " cannot be dragged");
+    form.PersonDragOver(&from, from.ScaleWidth() / 2, from.ScaleHeight() / 2);
+    return true;
+}
+
+// Takes FROM to TO and leaves it hovering there. A drag that hovers goes on
+// from where it is.
+bool Drag_To(Session& session, const Words& words, Named& from, Outcome& outcome)
 {
     double x = 0, y = 0;
-    if (!Read_Number(words[2], x, outcome) || !Read_Number(words[3], y, outcome))
+    Named to;
+    if (!Read_Number(words[2], x, outcome) || !Read_Number(words[3], y, outcome)
+        || !session.Find(words[0], from, outcome) || !session.Reach(words[0], from, outcome)
+        || !session.Find(words[1], to, outcome) || !session.Reach(words[1], to, outcome))
         return false;
-    from = Reach_Kind<ListView>(session, words[0], "control to drag from", outcome);
-    return from != nullptr && session.Find(words[1], to, outcome)
-           && session.Reach(words[1], to, outcome);
+    if (dynamic_cast<ListView*>(from.Target))
+        return true;
+    Form& form = *from.Window;
+    if (form.DragSource() != from.Target && !Drag_Begin(words[0], *from.Target, outcome))
+        return false;
+    form.PersonDragOver(to.Target, x, y);
+    return true;
 }
 
 bool Do_DragDrop(Session& session, const Words& words, Outcome& outcome)
 {
-    ListView* from = nullptr;
-    Named to;
-    if (!Reach_Drag(session, words, from, to, outcome))
+    Named from, to;
+    if (!Drag_To(session, words, from, outcome) || !session.Find(words[1], to, outcome))
         return false;
-    session.desktop.Dragged.clear();
-    session.desktop.DropTarget = to.Target;
-    from->DragStarted();
-    session.DropAll();
+    if (auto* const list = dynamic_cast<ListView*>(from.Target))
+        List_Drag(session, *list, *to.Target);
+    else
+        from.Window->PersonDragDrop();
     return true;
 }
 
 bool Do_DragOver(Session& session, const Words& words, Outcome& outcome)
 {
-    ListView* from = nullptr;
-    Named to;
-    if (!Reach_Drag(session, words, from, to, outcome))
-        return false;
-    session.Dragging = from;
-    return true;
+    Named from;
+    return Drag_To(session, words, from, outcome);
 }
 
 // Moves the thumb of a bar there, and lets it go or holds it.

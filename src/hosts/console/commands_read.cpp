@@ -2,6 +2,7 @@
 #include "core/program.h"
 #include "hosts/console/arguments.h"
 #include "hosts/console/commands.h"
+#include "hosts/console/control_face.h"
 #include "toolkit/combo_box.h"
 
 namespace tavo::console {
@@ -95,9 +96,20 @@ void Print_Band(const Band& band, Outcome& outcome)
     }
 }
 
+// A band or menu of the main window, or of the form named before it.
+const Band* Band_Find(const Session& session, std::string_view name)
+{
+    const Form* form = &session.program.main;
+    if (const auto point = name.find('.'); point != std::string_view::npos) {
+        form = session.FindForm(name.substr(0, point));
+        name.remove_prefix(point + 1);
+    }
+    return form && form->Bars ? form->Bars->FindBand(name) : nullptr;
+}
+
 bool Do_Items(Session& session, const Words& words, Outcome& outcome)
 {
-    if (const Band* const band = session.program.main.atbMain.FindBand(words[0])) {
+    if (const Band* const band = Band_Find(session, words[0])) {
         Print_Band(*band, outcome);
         return true;
     }
@@ -147,17 +159,19 @@ bool Do_Pictures(Session& session, const Words&, Outcome& outcome)
     const auto& buffer = session.program.state.ThumbBuffer;
     outcome.Print(std::to_string(static_cast<int>(buffer.size()) - 1));
     for (std::size_t slot = 1; slot < buffer.size(); ++slot)
-        if (buffer[slot].WidthPixels > 0)
-            outcome.PrintRow({std::to_string(slot), std::to_string(buffer[slot].WidthPixels),
-                              std::to_string(buffer[slot].HeightPixels)});
+        if (const BitmapPtr& picture = buffer[slot])
+            outcome.PrintRow({std::to_string(slot), std::to_string(picture->Width()),
+                              std::to_string(picture->Height())});
     return true;
 }
 
 bool Do_Save(Session& session, const Words& words, Outcome& outcome)
 {
     Named found;
-    return session.Find(words[0], found, outcome)
-           && outcome.Fail(words[0] + " has no picture to save");
+    if (!session.Find(words[0], found, outcome))
+        return false;
+    const std::string why = Face_Save(*found.Target, session.desktop.TwipsPerPixel(), words[1]);
+    return why.empty() || outcome.Fail(why);
 }
 
 bool Do_Echo(Session&, const Words& words, Outcome& outcome)

@@ -1,12 +1,14 @@
 #include "hosts/console/console_desktop.h"
 
 #include "hosts/console/session.h"
+#include "hosts/pictures/picture_reader.h"
 #include "toolkit/form.h"
 #include "toolkit/list_view.h"
 
 #include <algorithm>
 #include <array>
 #include <ctime>
+#include <utility>
 
 namespace tavo::console {
 
@@ -93,14 +95,22 @@ Form* ConsoleDesktop::Front()
 
 void ConsoleDesktop::BringToFront(Form& form)
 {
-    Form* const before = Front();
-    if (before == &form)
+    std::erase(forms_, &form);
+    forms_.push_back(&form);
+    FollowFront();
+}
+
+void ConsoleDesktop::FollowFront()
+{
+    Form* const front = Front();
+    Form* const before = std::exchange(active_, front);
+    if (before == front)
         return;
     if (before)
         before->PersonActivate(false);
-    std::erase(forms_, &form);
-    forms_.push_back(&form);
-    form.PersonActivate(true);
+    // To be left may have brought up another one.
+    if (front && front == active_)
+        front->PersonActivate(true);
 }
 
 void ConsoleDesktop::Show(Form& form)
@@ -115,9 +125,7 @@ void ConsoleDesktop::ShowModal(Form& form)
     Show(form);
     if (session_)
         session_->ModalLoop(form);
-    // It stays in the list for a moment when it ended by Unload.
-    if (Form* const front = Front())
-        front->PersonActivate(true);
+    FollowFront();
 }
 
 void ConsoleDesktop::SetForegroundWindow(Form& form)
@@ -131,7 +139,7 @@ void ConsoleDesktop::PopUpMenu(Tool&, int, int)
     // A menu of the console is always open: its tools are clicked by name.
 }
 
-std::optional<std::string> ConsoleDesktop::SHBrowseForFolderA(const std::string& title)
+std::optional<std::string> ConsoleDesktop::Path_Ask(const std::string& title)
 {
     if (!Answers.empty()) {
         const Answer next = Answers.front();
@@ -146,6 +154,16 @@ std::optional<std::string> ConsoleDesktop::SHBrowseForFolderA(const std::string&
             return path;
     }
     return std::nullopt;
+}
+
+std::optional<std::string> ConsoleDesktop::SHBrowseForFolderA(const std::string& title)
+{
+    return Path_Ask(title);
+}
+
+std::optional<std::string> ConsoleDesktop::GetSaveFileNameA(const SaveQuestion& question)
+{
+    return Path_Ask(question.Title);
 }
 
 double ConsoleDesktop::ScreenWidth() const
@@ -165,9 +183,14 @@ bool ConsoleDesktop::ShellExecuteA(const std::string& verb, const std::string& a
     return true;
 }
 
-bool ConsoleDesktop::LoadPicture(const std::string& path, int& widthPixels, int& heightPixels)
+BitmapPtr ConsoleDesktop::LoadPicture(const std::string& path, PictureBound bound)
 {
-    return PictureReader && PictureReader(path, widthPixels, heightPixels);
+    return pictures::Bitmap_Load(path, bound.WidthPixels, bound.HeightPixels);
+}
+
+BitmapPtr ConsoleDesktop::PaintPicture(const Bitmap& picture, int widthPixels, int heightPixels)
+{
+    return pictures::Bitmap_Paint(picture, widthPixels, heightPixels);
 }
 
 SystemTime ConsoleDesktop::Now()

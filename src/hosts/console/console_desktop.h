@@ -45,19 +45,20 @@ public:
     std::string ClipboardText() override { return Clipboard; }
     void SetClipboardText(const std::string& text) override { Clipboard = text; }
     std::optional<std::string> SHBrowseForFolderA(const std::string& title) override;
+    std::optional<std::string> GetSaveFileNameA(const SaveQuestion& question) override;
     bool ShellExecuteA(const std::string& verb, const std::string& address,
                        std::string& why) override;
-    bool LoadPicture(const std::string& path, int& widthPixels, int& heightPixels) override;
+    BitmapPtr LoadPicture(const std::string& path, PictureBound bound) override;
+    BitmapPtr PaintPicture(const Bitmap& picture, int widthPixels, int heightPixels) override;
     SystemTime Now() override;
     void DragFiles(Control& source, const std::vector<std::string>& paths) override;
 
     // The forms that are up, the front one last.
     const std::vector<Form*>& Forms();
     Form* Front();
+    // A form that was hidden leaves the front to the one behind it.
+    void FollowFront();
 
-    // Gives a picture's size in pixels; false for what is none. Without it no
-    // file is a picture.
-    std::function<bool(const std::string& path, int& width, int& height)> PictureReader;
     std::deque<Answer> Answers;
     std::vector<BoxRecord> Boxes;
     std::vector<Opened> OpenedNow;
@@ -69,9 +70,11 @@ public:
 
 private:
     void BringToFront(Form& form);
+    std::optional<std::string> Path_Ask(const std::string& title);
 
     Session* session_ = nullptr;
     std::vector<Form*> forms_;
+    Form* active_ = nullptr; // the front one that has been told so
 };
 
 std::string Answer_Name(BoxAnswer answer);

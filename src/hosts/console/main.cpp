@@ -1,6 +1,5 @@
 #include "core/program.h"
 #include "hosts/console/session.h"
-#include "hosts/pictures/picture_reader.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_profile.h"
 #include "platform/posix/start_info.h"
@@ -66,7 +65,6 @@ int Run(const Arguments& arguments, std::istream& in, bool isTerminal)
     tavo::PosixFiles files;
     tavo::PosixProfile profile;
     tavo::console::ConsoleDesktop desktop;
-    desktop.PictureReader = tavo::pictures::Picture_Size;
     tavo::Program program(files, profile, desktop, Start_Info(arguments));
     tavo::console::Session session(program, desktop, {in, std::cout, std::cerr, isTerminal},
                                    arguments.KeepGoing);

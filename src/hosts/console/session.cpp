@@ -125,6 +125,7 @@ void Session::Perform(const Words& words, int line)
         outcome.Why = words.front() + " failed";
     if (!outcome.Why.empty())
         PrintError(line, outcome.Why);
+    desktop.FollowFront();
     current_ = before;
 }
 
@@ -208,12 +209,6 @@ void Session::ModalLoop(Form& form)
 bool Session::IsBehindModal(const Form& form) const
 {
     return !modal_.empty() && modal_.back() != &form;
-}
-
-void Session::DropAll()
-{
-    Dragging = nullptr;
-    desktop.DropTarget = nullptr;
 }
 
 Form* Session::FindForm(std::string_view name) const

@@ -85,10 +85,9 @@ public:
     bool IsBehindModal(const Form& form) const;
     // Keeps a command back for the `turn`th turn of the next command's pump.
     void Postpone(int turn, Words words);
-    void DropAll(); // ends a drag that hovers
 
-    // The control that hovers in a drag, null for none.
-    Control* Dragging = nullptr;
+    // The mouse button that is held down, 0 for none.
+    int HeldButton = 0;
 
 private:
     struct Kept {

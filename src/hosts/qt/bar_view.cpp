@@ -1,6 +1,7 @@
 #include "hosts/qt/bar_view.h"
 
 #include "hosts/qt/binder.h"
+#include "hosts/qt/icons.h"
 #include "hosts/qt/qt_text.h"
 #include "hosts/qt/tool_actions.h"
 
@@ -31,10 +32,8 @@ struct BoxWidth {
 };
 
 constexpr BoxWidth boxWidths[] = {
-    {"ID_sFilter", filterChars},
-    {"ID_RenameList", modeChars},
-    {"ID_SelDistance", distanceChars},
-    {"ID_sAddress", 0},
+    {"ID_sFilter", filterChars},   {"ID_RenameList", modeChars}, {"ID_SelDistance", distanceChars},
+    {"ID_Seconds", distanceChars}, {"ID_sAddress", 0},
 };
 
 int Chars_Of(const Tool& tool)
@@ -71,6 +70,9 @@ BarView::BarView(const Band& band, ToolActions& actions, Binder& binder, QWidget
         FitFont();
     for (Tool* tool : band.Tools())
         AddTool(*tool);
+    // The style's own arrow is black, on dark bars as well.
+    if (auto* more = findChild<QToolButton*>("qt_toolbar_ext_button"))
+        more->setIcon(Icon_Named("arrow-right-double"));
 }
 
 void BarView::FitFont()

@@ -89,7 +89,9 @@ bool BarWalk::eventFilter(QObject* object, QEvent* event)
 void BarWalk::NextRegion(bool backwards)
 {
     QWidget* focus = window_.focusWidget();
-    std::vector<QWidget*> regions{nullptr, window_.menuBar()}; // null is the content
+    std::vector<QWidget*> regions{nullptr}; // null is the content
+    if (window_.menuWidget())
+        regions.push_back(window_.menuWidget());
     for (BarView* bar : bars_)
         if (bar->isVisible() && !Stops(*bar).empty())
             regions.push_back(bar);

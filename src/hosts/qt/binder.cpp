@@ -1,5 +1,6 @@
 #include "hosts/qt/binder.h"
 
+#include "hosts/qt/colours.h"
 #include "hosts/qt/qt_text.h"
 
 #include <QAbstractButton>
@@ -17,15 +18,10 @@ namespace {
 
 constexpr int progressSteps = 1000;
 
-// 0x00BBGGRR as Qt has it; invalid for a colour of the system, which is the
-// palette's business.
-QColor Colour_Of(std::int32_t colour)
+// Invalid for a colour of the system, which the widget's own palette has.
+QColor OwnColour(std::int32_t colour, const QPalette& palette)
 {
-    const auto bits = static_cast<std::uint32_t>(colour);
-    if (bits & 0x80000000u)
-        return {};
-    return QColor(static_cast<int>(bits & 255), static_cast<int>(bits >> 8 & 255),
-                  static_cast<int>(bits >> 16 & 255));
+    return Color_IsOfSystem(colour) ? QColor() : Color_Of(colour, palette);
 }
 
 // Marks a widget whose palette the program has had a hand in.
@@ -33,7 +29,8 @@ constexpr char ownColours[] = "ownColours";
 
 void ShowColours(QWidget& widget, const Control& control)
 {
-    const QColor back = Colour_Of(control.BackColor), fore = Colour_Of(control.ForeColor);
+    const QColor back = OwnColour(control.BackColor, widget.palette());
+    const QColor fore = OwnColour(control.ForeColor, widget.palette());
     const bool own = back.isValid() || fore.isValid();
     if (!own && !widget.property(ownColours).toBool())
         return;
@@ -66,9 +63,10 @@ int Pixels(double twips)
 // Edges are rounded, not sizes, so that neighbours meet.
 QRect Pixels_Of(const Control& control)
 {
-    const int left = Pixels(control.Left), top = Pixels(control.Top);
-    return {QPoint(left, top), QPoint(Pixels(control.Left + control.Width) - 1,
-                                      Pixels(control.Top + control.Height) - 1)};
+    const double unit = control.Container ? control.Container->UnitTwips() : 1;
+    const double left = control.Left * unit, top = control.Top * unit;
+    return {QPoint(Pixels(left), Pixels(top)), QPoint(Pixels(left + control.Width * unit) - 1,
+                                                      Pixels(top + control.Height * unit) - 1)};
 }
 
 // Tool buttons and menus have the focus while the person walks them by keys.

@@ -46,7 +46,7 @@ bool IsOnAScreen(const QRect& place)
 } // namespace
 
 FormWindow::FormWindow(Form& form, QWidget& window, FrameQueue& queue)
-    : QObject(&window), form_(form), window_(window), shown_(Place_Of(form))
+    : QObject(&window), form_(form), window_(window), shown_(QPoint(), Place_Of(form).size())
 {
     window.setObjectName(ToQt(form.Name()));
     window.resize(shown_.size());
@@ -62,6 +62,9 @@ void FormWindow::Show(const PropSet& changed)
         window_.setWindowTitle(ToQt(form_.Caption()));
     if (changed.Has({Prop::Geometry}))
         ShowPlace();
+    // A form that is kept is shown again by the desktop.
+    if (changed.Has({Prop::Visible}) && !form_.Visible())
+        window_.hide();
     if (changed.Has({Prop::State}) && form_.State() != State_Of(window_)) {
         const bool big = form_.State() == WindowState::Maximised;
         const bool small = form_.State() == WindowState::Minimised;
@@ -91,9 +94,11 @@ void FormWindow::TellInside(int width, int height)
     form_.SetFrame(outerWidth - width * twipsPerPixel, outerHeight - height * twipsPerPixel);
 }
 
+// What the program has changed and is not yet shown goes before what the window
+// has been until now.
 void FormWindow::TellPlace()
 {
-    if (taking_ || !window_.isVisible() || window_.isMinimized())
+    if (taking_ || !window_.isVisible() || window_.isMinimized() || shown_ != Place_Of(form_))
         return;
     TellState(); // else the size of a maximised window is taken for the normal one
     const QScopedValueRollback<bool> taking(taking_, true);
@@ -134,7 +139,8 @@ bool FormWindow::eventFilter(QObject*, QEvent* event)
     case QEvent::WindowStateChange: TellState(); return false;
     case QEvent::WindowActivate:
     case QEvent::WindowDeactivate:
-        form_.PersonActivate(event->type() == QEvent::WindowActivate);
+        if (form_.Loaded())
+            form_.PersonActivate(event->type() == QEvent::WindowActivate);
         return false;
     case QEvent::Close:
         if (!StaysOpen())

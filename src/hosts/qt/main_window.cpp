@@ -12,6 +12,7 @@
 #include "hosts/qt/parts.h"
 #include "hosts/qt/person_input.h"
 #include "hosts/qt/qt_text.h"
+#include "hosts/qt/thumb_page.h"
 #include "hosts/qt/tool_actions.h"
 
 #include <QBoxLayout>
@@ -29,8 +30,8 @@ constexpr std::string_view barBands[] = {"Standard", "Selection", addressBand};
 
 } // namespace
 
-MainWindow::MainWindow(FrmMain& form, PictureStore& pictures)
-    : form_(form), pictures_(pictures), binder_(new Binder(form, *this)),
+MainWindow::MainWindow(FrmMain& form)
+    : form_(form), binder_(new Binder(form, *this)),
       frame_(new FormWindow(form, *this, binder_->Queue())), input_(new PersonInput(*binder_)),
       actions_(new ToolActions(form.atbMain, binder_->Queue(), *this))
 {
@@ -42,7 +43,8 @@ MainWindow::MainWindow(FrmMain& form, PictureStore& pictures)
     centralWidget()->installEventFilter(this);
     BuildScreens();
     BuildPanels();
-    for (Timer* timer : {&form.tmrDateTimeClock, &form.tmrRedrawThumbs})
+    for (Timer* timer : {&form.tmrDateTimeClock, &form.tmrRedrawThumbs, &form.tmrRefreshThumbs,
+                         &form.tmrThumbsScrollD, &form.tmrThumbsScrollU})
         binder_->Bind(*timer);
     walk_ = new BarWalk(*this, bars_);
     input_->BarKey = [this](QWidget& receiver, QKeyEvent& event) {
@@ -95,14 +97,12 @@ void MainWindow::BuildScreens()
     auto* preview = new QFrame(select);
     preview->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     binder_->Place(*preview, form_.picSelPreview);
-    new PicturePane(form_.imgSelPreview, pictures_, *binder_, preview);
+    new PicturePane(form_.imgSelPreview, *binder_, preview);
     binder_->Bind(*preview, form_.picSelPreview);
     new SplitBar(form_.lblSelDBX, Qt::SplitHCursor, *binder_, select);
     new SplitBar(form_.lblSelDBY, Qt::SplitVCursor, *binder_, select);
     binder_->Bind(*select, form_.fraSelect);
-    auto* thumbnails = new QWidget(screens);
-    binder_->Place(*thumbnails, form_.picThumbnails);
-    binder_->Bind(*thumbnails, form_.picThumbnails);
+    new ThumbPage(form_, *binder_, screens);
     new ActionPane(form_, *binder_, screens);
     binder_->AddHome(*new ListPage(form_.lsvRename, *binder_, screens));
 }

@@ -16,7 +16,6 @@ class FormWindow;
 class FrmMain;
 class ListPage;
 class PersonInput;
-class PictureStore;
 class StatusPanels;
 class ToolActions;
 
@@ -27,7 +26,7 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    MainWindow(FrmMain& form, PictureStore& pictures);
+    explicit MainWindow(FrmMain& form);
     ~MainWindow() override;
 
     // Brings up the menu of a menu tool at a point of the button pressed last.
@@ -50,7 +49,6 @@ private:
     void TellInside();
 
     FrmMain& form_;
-    PictureStore& pictures_;
     Binder* binder_;
     FormWindow* frame_;
     PersonInput* input_;

@@ -1,9 +1,9 @@
 #include "hosts/qt/parts.h"
 
+#include "hosts/pictures/image_bitmap.h"
 #include "hosts/qt/binder.h"
 #include "hosts/qt/icons.h"
 #include "hosts/qt/key_of_event.h"
-#include "hosts/qt/picture_store.h"
 #include "hosts/qt/qt_text.h"
 
 #include <QLabel>
@@ -48,9 +48,8 @@ void SplitBar::mouseReleaseEvent(QMouseEvent* event)
     label_.MouseUp(At(*event));
 }
 
-PicturePane::PicturePane(PictureBox& picture, PictureStore& pictures, Binder& binder,
-                         QWidget* parent)
-    : QWidget(parent), picture_(picture), pictures_(pictures)
+PicturePane::PicturePane(PictureBox& picture, Binder& binder, QWidget* parent)
+    : QWidget(parent), picture_(picture)
 {
     binder.Place(*this, picture);
     binder.Bind(*this, picture, [this](const PropSet& changed) {
@@ -59,7 +58,7 @@ PicturePane::PicturePane(PictureBox& picture, PictureStore& pictures, Binder& bi
         const PictureRef& wanted = picture_.Picture;
         if (changed.Has({Prop::Picture}))
             shown_ = wanted.Shown == PictureRef::Kind::Bitmap
-                         ? QPixmap::fromImage(pictures_.Shown(wanted.Path))
+                         ? QPixmap::fromImage(pictures::Image_Of(*wanted.Dots))
                          : QPixmap();
         update();
     });

@@ -10,7 +10,6 @@
 namespace tavo {
 
 class Binder;
-class PictureStore;
 
 // A thin bar to drag. It tells its label where the mouse is, in twips from the
 // corner that the label has at that moment, which may be ahead of the widget.
@@ -36,14 +35,13 @@ class PicturePane : public QWidget {
     Q_OBJECT
 
 public:
-    PicturePane(PictureBox& picture, PictureStore& pictures, Binder& binder, QWidget* parent);
+    PicturePane(PictureBox& picture, Binder& binder, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     PictureBox& picture_;
-    PictureStore& pictures_;
     QPixmap shown_;
 };
 

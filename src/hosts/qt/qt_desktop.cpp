@@ -1,5 +1,7 @@
 #include "hosts/qt/qt_desktop.h"
 
+#include "hosts/pictures/image_bitmap.h"
+#include "hosts/qt/binder.h"
 #include "hosts/qt/qt_text.h"
 #include "platform/posix/start_info.h"
 #include "toolkit/form.h"
@@ -10,6 +12,8 @@
 #include <QDesktopServices>
 #include <QDialog>
 #include <QDrag>
+#include <QEventLoop>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -22,7 +26,6 @@ namespace tavo {
 
 namespace {
 
-constexpr double twipsPerPixelHere = 15;
 // The window stays as lively as a person can tell, and a fast run as fast.
 constexpr int turnMs = 10;
 
@@ -53,6 +56,12 @@ constexpr ButtonRow buttons[] = {
     {BoxButtons::YesNo, BoxAnswer::No, QMessageBox::No},
 };
 
+double DotsPerPixel()
+{
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return screen ? screen->devicePixelRatio() : 1;
+}
+
 // What the box gives when it is closed without a choice.
 BoxAnswer Closed_Answer(const MessageBox& box)
 {
@@ -82,6 +91,13 @@ void Fill(QMessageBox& shown, const MessageBox& box)
     }
 }
 
+// What the program has changed is in the window before it comes up.
+void Flush(const QWidget& window)
+{
+    if (auto* binder = window.findChild<Binder*>(QString(), Qt::FindDirectChildrenOnly))
+        binder->Queue().Flush();
+}
+
 BoxAnswer Answer_Of(const MessageBox& box, QMessageBox::StandardButton pressed)
 {
     for (const ButtonRow& row : buttons)
@@ -95,6 +111,11 @@ BoxAnswer Answer_Of(const MessageBox& box, QMessageBox::StandardButton pressed)
 void QtDesktop::AddWindow(Form& form, QWidget& window)
 {
     windows_[&form] = &window;
+}
+
+void QtDesktop::AddWindow(const std::string& formName, WindowMaker make)
+{
+    windowMakers_[formName] = std::move(make);
 }
 
 void QtDesktop::AddDialog(const std::string& formName, DialogMaker make)
@@ -161,16 +182,32 @@ BoxAnswer QtDesktop::MsgBox(const MessageBox& box)
     return Answer_Of(box, shown.standardButton(shown.clickedButton()));
 }
 
+// Null for a form that no window is known for.
+QWidget* QtDesktop::WindowOf(Form& form)
+{
+    QPointer<QWidget>& window = windows_[&form];
+    const auto make = windowMakers_.find(form.Name());
+    if (!window && make != windowMakers_.end())
+        window = make->second(form);
+    return window;
+}
+
+// The window comes first: as the form loads it lays out, and must know what
+// room there is.
 void QtDesktop::Show(Form& form)
 {
+    QWidget* window = WindowOf(form);
     form.EnsureLoaded();
-    const auto window = windows_.find(&form);
-    if (!form.Loaded() || window == windows_.end() || !window->second)
+    if (!form.Loaded() || !window)
         return;
     form.SetVisible(true);
     if (BeforeShowing)
         BeforeShowing();
-    window->second->show();
+    Flush(*window);
+    const bool wasUp = window->isVisible();
+    window->show();
+    if (wasUp)
+        SetForegroundWindow(form);
 }
 
 void QtDesktop::ShowModal(Form& form)
@@ -183,9 +220,32 @@ void QtDesktop::ShowModal(Form& form)
         BeforeShowing();
     const auto dialog = make->second(form, FrontWindow());
     form.EnsureLoaded();
-    form.SetVisible(true);
     if (form.Loaded())
-        dialog->exec();
+        RunDialog(form, *dialog);
+}
+
+// Until the form is gone, which may be while it is coming up. Not every desktop
+// activates a dialog, but its form must hear that it is up. A dialog that was
+// put away past its form takes the form along, if that lets itself.
+void QtDesktop::RunDialog(Form& form, QDialog& dialog)
+{
+    QEventLoop loop;
+    const Connection gone = form.Unloaded.Listen([&loop] { loop.quit(); });
+    QObject::connect(&dialog, &QDialog::finished, &loop, [&form, &dialog] {
+        form.Unload();
+        if (form.Loaded())
+            dialog.show();
+    });
+    QTimer::singleShot(0, &dialog, [&form, &dialog] {
+        if (dialog.isVisible())
+            form.PersonActivate(true);
+    });
+    form.SetVisible(true);
+    Flush(dialog);
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.show();
+    if (form.Loaded())
+        loop.exec(QEventLoop::DialogExec);
 }
 
 void QtDesktop::SetForegroundWindow(Form& form)
@@ -217,12 +277,12 @@ void QtDesktop::SetPointer(Pointer pointer)
 
 double QtDesktop::ScreenWidth() const
 {
-    return QGuiApplication::primaryScreen()->size().width() * twipsPerPixelHere;
+    return QGuiApplication::primaryScreen()->size().width() * twipsPerPixel;
 }
 
 double QtDesktop::ScreenHeight() const
 {
-    return QGuiApplication::primaryScreen()->size().height() * twipsPerPixelHere;
+    return QGuiApplication::primaryScreen()->size().height() * twipsPerPixel;
 }
 
 std::string QtDesktop::ClipboardText()
@@ -245,6 +305,19 @@ std::optional<std::string> QtDesktop::SHBrowseForFolderA(const std::string& titl
     return OnBrowse(title, FrontWindow());
 }
 
+std::optional<std::string> QtDesktop::GetSaveFileNameA(const SaveQuestion& question)
+{
+    const QScopedValueRollback<int> inside(inside_, inside_ + 1);
+    if (BeforeShowing)
+        BeforeShowing();
+    const std::string kind = question.Filter.substr(0, question.Filter.find('\0'));
+    const QString path =
+        QFileDialog::getSaveFileName(FrontWindow(), ToQt(question.Title), QString(), ToQt(kind));
+    if (path.isEmpty())
+        return std::nullopt;
+    return FromQt(path);
+}
+
 bool QtDesktop::ShellExecuteA(const std::string&, const std::string& address, std::string& why)
 {
     const bool path = address.starts_with('/');
@@ -259,13 +332,14 @@ bool QtDesktop::ShellExecuteA(const std::string&, const std::string& address, st
     return false;
 }
 
-bool QtDesktop::LoadPicture(const std::string& path, int& widthPixels, int& heightPixels)
+BitmapPtr QtDesktop::LoadPicture(const std::string& path, PictureBound bound)
 {
-    if (pictures_.Read(path).isNull())
-        return false;
-    widthPixels = pictures_.FullSize().width();
-    heightPixels = pictures_.FullSize().height();
-    return true;
+    return pictures::Bitmap_Load(path, {bound.WidthPixels, bound.HeightPixels}, DotsPerPixel());
+}
+
+BitmapPtr QtDesktop::PaintPicture(const Bitmap& picture, int widthPixels, int heightPixels)
+{
+    return pictures::Bitmap_Paint(picture, {widthPixels, heightPixels}, DotsPerPixel());
 }
 
 SystemTime QtDesktop::Now()

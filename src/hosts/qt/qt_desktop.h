@@ -1,6 +1,5 @@
 #pragma once
 
-#include "hosts/qt/picture_store.h"
 #include "platform/desktop.h"
 
 #include <QElapsedTimer>
@@ -23,6 +22,9 @@ public:
 
     // The window of a form that is shown without waiting for its end.
     void AddWindow(Form& form, QWidget& window);
+    // What makes such a window when its form is first shown, by the form's name.
+    using WindowMaker = std::function<QWidget*(Form& form)>;
+    void AddWindow(const std::string& formName, WindowMaker make);
     // What makes the dialog of a modal form, by the form's name.
     using DialogMaker = std::function<std::unique_ptr<QDialog>(Form& form, QWidget* owner)>;
     void AddDialog(const std::string& formName, DialogMaker make);
@@ -38,7 +40,6 @@ public:
 
     // Is a call of the program under way that waits for the person, or pumps?
     bool IsInside() const { return inside_ > 0; }
-    PictureStore& LoadedPictures() { return pictures_; }
 
     void DoEvents() override;
     void StillAlive() override;
@@ -53,19 +54,23 @@ public:
     std::string ClipboardText() override;
     void SetClipboardText(const std::string& text) override;
     std::optional<std::string> SHBrowseForFolderA(const std::string& title) override;
+    std::optional<std::string> GetSaveFileNameA(const SaveQuestion& question) override;
     bool ShellExecuteA(const std::string& verb, const std::string& address,
                        std::string& why) override;
-    bool LoadPicture(const std::string& path, int& widthPixels, int& heightPixels) override;
+    BitmapPtr LoadPicture(const std::string& path, PictureBound bound) override;
+    BitmapPtr PaintPicture(const Bitmap& picture, int widthPixels, int heightPixels) override;
     SystemTime Now() override;
     void DragFiles(Control& source, const std::vector<std::string>& paths) override;
 
 private:
     bool TurnIsDue();
     QWidget* FrontWindow() const;
+    QWidget* WindowOf(Form& form);
+    void RunDialog(Form& form, QDialog& dialog);
 
     Files& files_;
-    PictureStore pictures_;
     std::map<const Form*, QPointer<QWidget>> windows_;
+    std::map<std::string, WindowMaker> windowMakers_;
     std::map<std::string, DialogMaker> dialogs_;
     QElapsedTimer sinceTurn_;
     int inside_ = 0;

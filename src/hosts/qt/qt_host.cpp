@@ -1,20 +1,35 @@
 #include "hosts/qt/qt_host.h"
 
+#include "controls/frm_color.h"
 #include "core/frm_main.h"
 #include "fileactions/frm_delete.h"
+#include "hosts/qt/color_dialog.h"
 #include "hosts/qt/delete_dialog.h"
 #include "hosts/qt/folder_dialog.h"
 #include "hosts/qt/qt_text.h"
+#include "hosts/qt/resize_dialog.h"
 #include "selection/paths.h"
+#include "thumbnails/frm_thumb_resize.h"
+#include "viewer/frm_viewer.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
+#include <QTimer>
 
 #include <cmath>
 
 namespace tavo {
 
 namespace {
+
+// A dialog for a form of this kind.
+template <class Dialog, class FormKind>
+QtDesktop::DialogMaker Maker_Of()
+{
+    return [](Form& form, QWidget* owner) -> std::unique_ptr<QDialog> {
+        return std::make_unique<Dialog>(dynamic_cast<FormKind&>(form), owner);
+    };
+}
 
 int Pixels(int twips)
 {
@@ -24,13 +39,9 @@ int Pixels(int twips)
 } // namespace
 
 QtHost::QtHost(const StartInfo& info)
-    : desktop_(files_), program_(files_, profile_, desktop_, info),
-      window_(program_.main, desktop_.LoadedPictures())
+    : desktop_(files_), program_(files_, profile_, desktop_, info), window_(program_.main)
 {
-    desktop_.AddWindow(program_.main, window_);
-    desktop_.AddDialog("frmDelete", [](Form& form, QWidget* owner) -> std::unique_ptr<QDialog> {
-        return std::make_unique<DeleteDialog>(dynamic_cast<FrmDelete&>(form), owner);
-    });
+    AddWindows();
     desktop_.IsPaused = [this] { return program_.state.ActPaused; };
     desktop_.OnPopUp = [this](Tool& menu, int x, int y) {
         window_.PopUp(menu, {Pixels(x), Pixels(y)});
@@ -38,7 +49,11 @@ QtHost::QtHost(const StartInfo& info)
     desktop_.OnBrowse = [this](const std::string& title, QWidget* owner) {
         return Browse(title, owner);
     };
-    desktop_.BeforeShowing = [this] { window_.Bound().Queue().Flush(); };
+    desktop_.BeforeShowing = [this] {
+        window_.Bound().Queue().Flush();
+        if (viewer_)
+            viewer_->Bound().Queue().Flush();
+    };
     unloaded_ = program_.main.Unloaded.Listen([] { QCoreApplication::quit(); });
     // When Qt is about to wait for events and no call of the program is under
     // way, its commands have all come back.
@@ -47,6 +62,20 @@ QtHost::QtHost(const StartInfo& info)
                          if (!desktop_.IsInside())
                              program_.Settle();
                      });
+}
+
+void QtHost::AddWindows()
+{
+    desktop_.AddWindow(program_.main, window_);
+    desktop_.AddWindow("frmViewer", [this](Form& form) {
+        viewer_ = std::make_unique<ViewerWindow>(dynamic_cast<FrmViewer&>(form));
+        return viewer_.get();
+    });
+    desktop_.AddDialog("frmColor", Maker_Of<ColorDialog, FrmColor>());
+    desktop_.AddDialog("frmDelete", Maker_Of<DeleteDialog, FrmDelete>());
+    desktop_.AddDialog("frmThumbResize", Maker_Of<ResizeDialog, FrmThumbResize>());
+    // Behind the first look at the main window, which does not wait for it.
+    QTimer::singleShot(0, &window_, [this] { ColorDialog::TellExtent(program_.Color()); });
 }
 
 // Begins where the panel points to, else where the files were picked.

@@ -3,6 +3,7 @@
 #include "core/program.h"
 #include "hosts/qt/main_window.h"
 #include "hosts/qt/qt_desktop.h"
+#include "hosts/qt/viewer_window.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_profile.h"
 
@@ -18,8 +19,11 @@ public:
 
     Program& Running() { return program_; }
     MainWindow& Window() { return window_; }
+    // Null before its first use.
+    ViewerWindow* Viewer() { return viewer_.get(); }
 
 private:
+    void AddWindows();
     std::optional<std::string> Browse(const std::string& title, QWidget* owner);
 
     PosixFiles files_;
@@ -27,6 +31,7 @@ private:
     QtDesktop desktop_;
     Program program_;
     MainWindow window_;
+    std::unique_ptr<ViewerWindow> viewer_; // from its first use on
     Connection unloaded_;
 };
 

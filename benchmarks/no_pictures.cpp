@@ -1,0 +1,7 @@
+#include "work.h"
+
+namespace tavo::bench {
+
+void Pictures_Measure(Plan&) {}
+
+} // namespace tavo::bench
