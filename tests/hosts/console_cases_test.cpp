@@ -16,9 +16,10 @@
 // `name<TAB>content`, `name/`, `name -> target`), `script` the commands,
 // `output` what the console prints (with FOLDER/ for the test's own folder,
 // then its error lines behind `!`, then `exit N`), `disk` what lies there
-// afterwards. `settings` is the settings file, `saved` what it is to be
-// afterwards, `arguments` what stands on the command line in place of the
-// folder. `again` is the script of a second start, without any arguments.
+// afterwards, with FOLDER/ in its texts likewise. `settings` is the settings
+// file, `saved` what it is to be afterwards, `arguments` what stands on the
+// command line in place of the folder. `again` is the script of a second start,
+// without any arguments.
 
 using namespace tavo;
 namespace fs = std::filesystem;
@@ -149,7 +150,7 @@ TEST_P(ConsoleCase, Prints_and_leaves_what_is_laid_down)
         EXPECT_EQ(Replaced(app.Read("app/Tavo.ini"), folder.Path(), "FOLDER/"),
                   File_Text(plan / "saved"));
     }
-    EXPECT_EQ(Disk_Tell(folder), File_Text(plan / "disk"));
+    EXPECT_EQ(Replaced(Disk_Tell(folder), folder.Path(), "FOLDER/"), File_Text(plan / "disk"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Journeys, ConsoleCase, testing::ValuesIn(Cases()),

@@ -151,6 +151,37 @@ TEST(PictureReduced, Bounds_that_are_none_keep_the_whole_picture)
     }
 }
 
+// Whoever makes it smaller, the decoder, we, or first the one and then the
+// other: fine lines become grey, and no stripes.
+TEST(PictureReduced, A_chequered_file_becomes_one_grey)
+{
+    QImage board(640, 480, QImage::Format_RGB32);
+    for (int y = 0; y < board.height(); ++y)
+        for (int x = 0; x < board.width(); ++x)
+            board.setPixel(x, y, (x + y) % 2 == 0 ? 0xffffffff : 0xff000000);
+    const TempFolder folder("pictures_reduced_board");
+    for (const char* format : {"jpeg", "png", "bmp", "webp", "tiff"}) {
+        folder.Write("picture", Bytes_Of(board, format, 100));
+        for (const int bound : {40, 80, 100, 130, 300}) {
+            const BitmapPtr loaded = Bitmap_Load(folder.Path("picture"), bound, bound);
+            ASSERT_NE(loaded, nullptr) << format << " in " << bound;
+            const BitmapPtr painted = Bitmap_Paint(*loaded, bound, bound * 3 / 4);
+            ASSERT_NE(painted, nullptr) << format << " in " << bound;
+            const QImage& image = Image_Of(*painted);
+            int darkest = 255, lightest = 0;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x) {
+                    darkest = std::min(darkest, qGray(image.pixel(x, y)));
+                    lightest = std::max(lightest, qGray(image.pixel(x, y)));
+                }
+            // Where a dot covers few others, one more or less of them counts.
+            const int apart = 640 % bound == 0 ? 2 : 640 / bound > 4 ? 16 : 64;
+            EXPECT_NEAR((darkest + lightest) / 2, 127, 8) << format << " in " << bound;
+            EXPECT_LE(lightest - darkest, apart) << format << " in " << bound;
+        }
+    }
+}
+
 // A thousand thumbnails would each carry the words and profile of its photo.
 TEST(PictureReduced, A_thumbnail_holds_nothing_but_its_dots)
 {

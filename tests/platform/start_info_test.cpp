@@ -1,10 +1,10 @@
 #include "platform/posix/start_info.h"
 
 #include "support/temp_folder.h"
+#include "support/variable_set.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace tavo {
@@ -12,30 +12,6 @@ namespace tavo {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Sets a variable of the environment, and sets it back.
-class Variable_Set {
-public:
-    Variable_Set(const char* name, const std::string& value) : name_(name)
-    {
-        const char* old = std::getenv(name);
-        had_ = old != nullptr;
-        old_ = old ? old : "";
-        ::setenv(name, value.c_str(), 1);
-    }
-    ~Variable_Set()
-    {
-        if (had_)
-            ::setenv(name_, old_.c_str(), 1);
-        else
-            ::unsetenv(name_);
-    }
-
-private:
-    const char* name_;
-    bool had_ = false;
-    std::string old_;
-};
 
 // Goes to a folder, and back.
 class Folder_Entered {

@@ -94,7 +94,7 @@ public:
     // Searches that have been begun and not closed.
     int OpenSearches() const { return static_cast<int>(searches_.size()); }
     // Files that have been opened and not closed.
-    int OpenFiles() const { return static_cast<int>(openFiles_.size()); }
+    int OpenFiles() const { return static_cast<int>(openFiles_.size() + outputs_.size()); }
 
     // Runs before each call that follows. May change the disk; calls of the
     // port from inside it run no hook and meet no fault.
@@ -113,8 +113,13 @@ public:
     // From here on (a folder, with its separator) all is slow.
     void SetSlow(const std::string& path) { slow_ = path; }
 
+    // Does the program stand in the "Send To" menus of this system?
+    bool InSendTo = false;
+
     // -- The port.
 
+    bool SendToStands() override { return InSendTo; }
+    void SendToSet(bool on) override { InSendTo = on; }
     const PathRules& Rules() const override { return rules_; }
     FindHandle FindFirstFileA(const std::string& pattern, FindData& found) override;
     bool FindNextFileA(FindHandle handle, FindData& found) override;
@@ -140,6 +145,11 @@ public:
     std::optional<std::string> ReadBytes(FileHandle file, std::uint64_t offset,
                                          std::size_t count) override;
     bool WriteBytes(FileHandle file, std::uint64_t offset, std::string_view bytes) override;
+    // A link is written through. Nothing Read-Only is replaced, and a locked
+    // folder takes no new file.
+    FileHandle OpenOutput(const std::string& path) override;
+    bool WriteOutput(FileHandle file, std::string_view bytes) override;
+    bool CloseOutput(FileHandle file) override;
 
     bool LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out) override;
     bool FileTimeToLocalSystemTime(FileTime time, SystemTime& out) override;
@@ -165,6 +175,11 @@ private:
         NodePtr Node;
         OpenMode Mode = OpenMode::Read;
     };
+    // What is written, until it takes its place.
+    struct Output {
+        std::string Path, Bytes;
+        bool Failed = false;
+    };
     // What happens once, at a call still to come.
     struct OneTime {
         std::string Name;
@@ -184,6 +199,9 @@ private:
     Opened* EnterOpen(const std::string& call, FileHandle file, OpenMode needed);
     int FindToOpen(const std::string& path, OpenMode mode, NodePtr& node) const;
     int RefusedOpen(const MemoryNode& node, OpenMode mode) const;
+    std::string Through(std::string path) const;
+    int FindOutput(const std::string& path, NodePtr& node) const;
+    Output* EnterOutput(const std::string& call, FileHandle file);
 
     int Begin(const std::string& pattern, Search& search) const;
     int BeginWildcards(const std::string& last, Search& search) const;
@@ -213,6 +231,7 @@ private:
     std::map<FindHandle, Search> searches_;
     FindHandle lastHandle_ = invalidFind;
     std::map<FileHandle, Opened> openFiles_;
+    std::map<FileHandle, Output> outputs_;
     FileHandle lastFile_ = noFile;
     int lastError_ = diskOk;
     int zoneMinutes_ = 0;

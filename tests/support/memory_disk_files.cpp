@@ -230,6 +230,80 @@ bool MemoryDisk::WriteBytes(FileHandle file, std::uint64_t offset, std::string_v
     return true;
 }
 
+// -- Output
+
+FileHandle MemoryDisk::OpenOutput(const std::string& path)
+{
+    NodePtr node;
+    int code = Enter("OpenOutput", path);
+    if (code == diskOk)
+        code = FindOutput(Through(path), node);
+    if (!Report(code))
+        return noFile;
+    outputs_[++lastFile_] = {Through(path), ""};
+    return lastFile_;
+}
+
+// What the links at the end of a path lead to, which need not be there.
+std::string MemoryDisk::Through(std::string path) const
+{
+    constexpr int mostLinks = 40;
+    NodePtr node;
+    for (int link = 0; link < mostLinks && Lookup(path, node) == diskOk && node->IsLink(); ++link)
+        path = node->LinkTo;
+    return path;
+}
+
+// The file to be replaced; null where there is none yet.
+int MemoryDisk::FindOutput(const std::string& path, NodePtr& node) const
+{
+    if (const int code = RefusedName(path))
+        return code;
+    const int code = Lookup(path, node);
+    if (code == diskOk)
+        return RefusedOpen(*node, OpenMode::ReadWrite);
+    if (code == diskMissing && tree_.Locate(path).Folder->Locked)
+        return diskDenied;
+    return code == diskMissing ? diskOk : code;
+}
+
+// The output behind the handle; null when the call is to fail, which is then
+// reported and spoils the file.
+MemoryDisk::Output* MemoryDisk::EnterOutput(const std::string& call, FileHandle file)
+{
+    const auto found = outputs_.find(file);
+    const bool isKnown = found != outputs_.end();
+    int code = Enter(call, isKnown ? found->second.Path : "");
+    if (isKnown && code != diskOk)
+        found->second.Failed = true;
+    if (code == diskOk && !isKnown)
+        code = CodeOf(badHandle.Windows, badHandle.Posix);
+    return Report(code) ? &found->second : nullptr;
+}
+
+bool MemoryDisk::WriteOutput(FileHandle file, std::string_view bytes)
+{
+    Output* const output = EnterOutput("WriteOutput", file);
+    if (output)
+        output->Bytes += bytes;
+    return output && !output->Failed;
+}
+
+bool MemoryDisk::CloseOutput(FileHandle file)
+{
+    Output* const open = EnterOutput("CloseOutput", file);
+    const Output output = open ? *open : Output();
+    outputs_.erase(file);
+    NodePtr node;
+    if (!open || output.Failed || !Report(FindOutput(output.Path, node)))
+        return false;
+    if (!node)
+        node = MakeEntry(output.Path);
+    node->Content = output.Bytes;
+    node->Size = output.Bytes.size();
+    return true;
+}
+
 // -- Local time
 
 bool MemoryDisk::LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out)

@@ -334,4 +334,75 @@ TEST(MemoryDiskFiles, What_is_no_time_leaves_the_last_value)
     }
 }
 
+// -- Output
+
+TEST(MemoryDiskFiles, Output_takes_its_place_when_it_is_closed)
+{
+    for (const Flavour flavour : allFlavours) {
+        MemoryDisk disk = FilledDisk(flavour);
+        for (const char* name : {"file", "link", "new", "to nowhere"}) {
+            const std::string path = PathOf(flavour, name);
+            const auto before = disk.Dump();
+            const FileHandle file = disk.OpenOutput(path);
+            ASSERT_NE(file, noFile) << name;
+            EXPECT_TRUE(disk.WriteOutput(file, "a"));
+            EXPECT_TRUE(disk.WriteOutput(file, "b"));
+            EXPECT_EQ(disk.Dump(), before) << name;
+            EXPECT_EQ(disk.OpenFiles(), 1);
+            EXPECT_TRUE(disk.CloseOutput(file));
+            EXPECT_EQ(disk.OpenFiles(), 0);
+            EXPECT_FALSE(disk.WriteOutput(file, "c"));
+            EXPECT_FALSE(disk.CloseOutput(file));
+        }
+        for (const char* name : {"file", "new", "missing"})
+            EXPECT_EQ(disk.Content(PathOf(flavour, name)), "ab") << name;
+        EXPECT_EQ(disk.Stat(PathOf(flavour, "file"))->Size, 2U);
+    }
+}
+
+TEST(MemoryDiskFiles, Output_is_refused_where_nothing_can_be_written)
+{
+    for (const Flavour flavour : allFlavours) {
+        MemoryDisk disk = FilledDisk(flavour);
+        disk.AddFile(PathOf(flavour, "held"));
+        disk.SetInUse(PathOf(flavour, "held"));
+        const std::string closed = IsWindows(flavour) ? "C:\\closed\\" : "/closed/";
+        disk.AddFile(closed + "old");
+        disk.SetLocked(closed);
+        const struct {
+            std::string Path;
+            int Code;
+        } rows[] = {
+            {PathOf(flavour, "folder"), diskDenied},
+            {PathOf(flavour, "read-only"), diskDenied},
+            {PathOf(flavour, "held"), diskInUse},
+            {closed + "new", diskDenied},
+            {PathOf(flavour, ""), IsWindows(flavour) ? diskExists : diskBadName},
+        };
+        const auto before = disk.Dump();
+        for (const auto& row : rows) {
+            EXPECT_EQ(disk.OpenOutput(row.Path), noFile) << row.Path;
+            EXPECT_EQ(disk.LastError(), row.Code) << row.Path;
+        }
+        EXPECT_EQ(disk.Dump(), before);
+        EXPECT_NE(disk.OpenOutput(closed + "old"), noFile);
+    }
+}
+
+TEST(MemoryDiskFiles, Output_that_fails_leaves_the_old_file)
+{
+    for (const Flavour flavour : allFlavours)
+        for (const char* call : {"OpenOutput", "WriteOutput", "CloseOutput"}) {
+            MemoryDisk disk = FilledDisk(flavour);
+            const auto before = disk.Dump();
+            disk.Fail(call, 1, 77);
+            const FileHandle file = disk.OpenOutput(PathOf(flavour, "file"));
+            EXPECT_EQ(disk.WriteOutput(file, "a"), call == std::string("CloseOutput"));
+            EXPECT_EQ(disk.WriteOutput(file, "b"), call == std::string("CloseOutput"));
+            EXPECT_FALSE(disk.CloseOutput(file)) << call;
+            EXPECT_EQ(disk.Dump(), before) << call;
+            EXPECT_EQ(disk.OpenFiles(), 0) << call;
+        }
+}
+
 } // namespace tavo

@@ -202,6 +202,23 @@ TEST(WindowThumbs, The_offer_refused_shows_the_icon_of_each_class)
     }
 }
 
+TEST(WindowThumbs, An_icon_lies_on_a_plate_where_it_could_not_be_seen)
+{
+    GridPerson p("thumbs_plate", 2, false);
+    const QColor plate = QApplication::palette().color(QPalette::Window);
+    const Shape& frame = p.Main().shpThumbsSel[1];
+    const double across = (p.Cell(1).Left - 2 - frame.Left) / frame.Width;
+    const auto paint = [&](std::int32_t colour) {
+        for (const auto& one : p.Main().shpThumbsSel)
+            one->BackColor = colour;
+    };
+    paint(0xFFFFFF);
+    EXPECT_EQ(p.Shown(frame, across), QColor(Qt::white));
+    paint(0x101010);
+    EXPECT_EQ(p.Shown(frame, across), plate);
+    EXPECT_EQ(p.Shown(frame, across / 2), QColor(16, 16, 16));
+}
+
 TEST(WindowThumbs, Frames_are_painted_as_wide_as_they_are_and_show_the_selection)
 {
     GridPerson p("thumbs_frames", 4);

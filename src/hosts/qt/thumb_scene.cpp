@@ -20,6 +20,7 @@ using Kind = SceneItem::Kind;
 
 constexpr int captionPadding = 2, smallestFont = 6;
 constexpr int leastContrast = 96; // of 255
+constexpr int plateRim = 4;
 
 constexpr Qt::Alignment alignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
@@ -142,6 +143,7 @@ void ScenePainter::Picture(const SceneItem& item)
     painter_.save();
     painter_.scale(1 / scale_, 1 / scale_);
     if (item.Picture.Shown == PictureRef::Kind::Icon) {
+        LayPlate(dots);
         painter_.drawPixmap(dots, Icon(item.Picture.Icon, item.Place.size().toSize()));
     } else if (item.Picture.Shown == PictureRef::Kind::Bitmap) {
         const QImage& image = pictures::Image_Of(*item.Picture.Dots);
@@ -179,24 +181,20 @@ void ScenePainter::FitFont(int heightPixels)
     painter_.setFont(fitted);
 }
 
+// Icons have the colours of the desktop, and would be lost on some grounds of a
+// scheme's own.
+void ScenePainter::LayPlate(const QRect& dots)
+{
+    const int rim = qRound(plateRim * scale_);
+    if (ground_.isValid() && !IsSeenOn(ground_, palette_.color(QPalette::WindowText)))
+        painter_.fillRect(dots.adjusted(-rim, -rim, rim, rim), palette_.window());
+}
+
 const QPixmap& ScenePainter::Icon(char letter, const QSize& size)
 {
     QPixmap& icon = icons_[letter];
     if (icon.isNull())
-        icon = Icon_Made(letter, size);
-    return icon;
-}
-
-// In the colours of the desktop, unless they would be lost on the scheme's own
-// ground: then all black or all white.
-QPixmap ScenePainter::Icon_Made(char letter, const QSize& size) const
-{
-    QPixmap icon = Icon_OfClass({&letter, 1}).pixmap(size, scale_);
-    if (!ground_.isValid() || IsSeenOn(ground_, palette_.color(QPalette::WindowText)))
-        return icon;
-    QPainter painter(&icon);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(QRect(QPoint(), size), IsSeenOn(ground_, Qt::black) ? Qt::black : Qt::white);
+        icon = Icon_OfClass({&letter, 1}).pixmap(size, scale_);
     return icon;
 }
 

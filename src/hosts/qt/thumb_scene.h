@@ -41,8 +41,7 @@ Scene Scene_Of(const PictureBox& box, const Binder& binder);
 // The place of a control in the box that holds it, in pixels.
 QRectF Place_InBox(const Control& control, const PictureBox& box);
 
-// Paints items; what it needs for several of them it prepares once. The frames
-// of one box are of one colour, so that icons are made for that.
+// Paints items; what it needs for several of them it prepares once.
 class ScenePainter {
 public:
     ScenePainter(QPainter& painter, const QPalette& palette, const QFont& font,
@@ -56,7 +55,7 @@ private:
     void Caption(const SceneItem& item);
     void FitFont(int heightPixels);
     const QPixmap& Icon(char letter, const QSize& size);
-    QPixmap Icon_Made(char letter, const QSize& size) const;
+    void LayPlate(const QRect& dots);
 
     QPainter& painter_;
     const QPalette& palette_;
@@ -64,7 +63,7 @@ private:
     CaptionCuts& captions_;
     int fittedHeight_ = 0;
     qreal scale_;   // dots to a pixel
-    QColor ground_; // of the last frame
+    QColor ground_; // of the last frame; those of a box are alike
     std::map<char, QPixmap> icons_;
 };
 

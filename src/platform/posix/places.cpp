@@ -106,10 +106,21 @@ std::string TempFolder()
     return folder.empty() ? "/tmp/" : folder;
 }
 
-std::string TrashFolder()
+std::string DataHomeFolder()
 {
     const std::string data = FolderFromEnvironment("XDG_DATA_HOME");
-    return (data.empty() ? HomeFolder() + ".local/share/" : data) + "Trash/files/";
+    return data.empty() ? HomeFolder() + ".local/share/" : data;
+}
+
+std::string ConfigHomeFolder()
+{
+    const std::string config = FolderFromEnvironment("XDG_CONFIG_HOME");
+    return config.empty() ? HomeFolder() + ".config/" : config;
+}
+
+std::string TrashFolder()
+{
+    return DataHomeFolder() + "Trash/files/";
 }
 
 } // namespace tavo

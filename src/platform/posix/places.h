@@ -20,6 +20,9 @@ std::vector<RootPlace> MountedVolumes(const std::vector<Mount>& mounts);
 std::string HomeFolder();
 // For files that nobody needs tomorrow: TMPDIR or /tmp/.
 std::string TempFolder();
+// Where programs keep what belongs to the user, and how the user set them up.
+std::string DataHomeFolder();
+std::string ConfigHomeFolder();
 // The files in the user's own trash.
 std::string TrashFolder();
 

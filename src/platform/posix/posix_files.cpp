@@ -4,6 +4,7 @@
 #include "platform/posix/disk_entry.h"
 #include "platform/posix/disk_error.h"
 #include "platform/posix/places.h"
+#include "platform/posix/send_to.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -29,6 +30,8 @@ PosixCalls WithSystemCalls(PosixCalls calls)
         calls.Transfer = SystemTransferDisk();
     if (!calls.Bin)
         calls.Bin = DesktopTrash();
+    if (!calls.Edit)
+        calls.Edit = SystemEditDisk();
     return calls;
 }
 
@@ -246,6 +249,16 @@ std::vector<ListedFolder> PosixFiles::ListFolders(const std::string& folder)
             folders.push_back({name, rules_.DotHides && name.starts_with('.')});
     }
     return folders;
+}
+
+bool PosixFiles::SendToStands()
+{
+    return SendTo_Stands(SendTo_OfSystem());
+}
+
+void PosixFiles::SendToSet(bool on)
+{
+    SendTo_Put(SendTo_OfSystem(), on);
 }
 
 std::string PosixFiles::SpecialFolderPath(SpecialFolder which)

@@ -4,6 +4,7 @@
 #include "platform/posix/local_clock.h"
 #include "platform/posix/mounts.h"
 #include "platform/posix/open_files.h"
+#include "platform/posix/output_file.h"
 #include "platform/posix/rename.h"
 #include "platform/posix/search.h"
 #include "platform/posix/transfer.h"
@@ -21,6 +22,7 @@ struct PosixCalls {
     std::unique_ptr<ContentDisk> Contents = nullptr;
     std::unique_ptr<TransferDisk> Transfer = nullptr;
     std::unique_ptr<Trash> Bin = nullptr;
+    std::unique_ptr<EditDisk> Edit = nullptr;
 };
 
 // The disk of Linux. Paths and names are bytes, and they begin with a slash; a
@@ -73,6 +75,15 @@ public:
                                          std::size_t count) override;
     bool WriteBytes(FileHandle file, std::uint64_t offset, std::string_view bytes) override;
 
+    // Bytes are gathered, so that a failure may only show with a later call.
+    // The handles are none of the calls above.
+    FileHandle OpenOutput(const std::string& path) override;
+    bool WriteOutput(FileHandle file, std::string_view bytes) override;
+    bool CloseOutput(FileHandle file) override;
+
+    bool SendToStands() override;
+    void SendToSet(bool on) override;
+
     bool LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out) override;
     bool FileTimeToLocalSystemTime(FileTime time, SystemTime& out) override;
 
@@ -109,8 +120,10 @@ private:
     Renamer renamer_;
     Transfer transfer_;
     OpenFiles openFiles_;
-    std::string filePath_;  // a file was the last whose attributes were read
-    std::string timesPath_; // of what is in knownTimes_
+    std::map<FileHandle, std::unique_ptr<OutputFile>> outputs_;
+    FileHandle lastOutput_ = noFile; // they count down
+    std::string filePath_;           // a file was the last whose attributes were read
+    std::string timesPath_;          // of what is in knownTimes_
     std::optional<KnownTimes> knownTimes_;
     std::map<FindHandle, std::unique_ptr<Search>> searches_;
     FindHandle lastHandle_ = invalidFind;

@@ -137,6 +137,33 @@ bool PosixFiles::WriteBytes(FileHandle file, std::uint64_t offset, std::string_v
     return DoneSystem(openFiles_.Write(file, offset, bytes));
 }
 
+FileHandle PosixFiles::OpenOutput(const std::string& path)
+{
+    if (!Done(CheckEntryPath(path)))
+        return noFile;
+    auto output = std::make_unique<OutputFile>(*calls_.Edit, *calls_.Contents);
+    if (!DoneSystem(output->Open(path), path))
+        return noFile;
+    outputs_[--lastOutput_] = std::move(output);
+    return lastOutput_;
+}
+
+bool PosixFiles::WriteOutput(FileHandle file, std::string_view bytes)
+{
+    const auto output = outputs_.find(file);
+    return DoneSystem(output == outputs_.end() ? EBADF : output->second->Write(bytes));
+}
+
+bool PosixFiles::CloseOutput(FileHandle file)
+{
+    const auto output = outputs_.find(file);
+    if (output == outputs_.end())
+        return DoneSystem(EBADF);
+    const int error = output->second->Close();
+    outputs_.erase(output);
+    return DoneSystem(error);
+}
+
 bool PosixFiles::LocalSystemTimeToFileTime(const SystemTime& time, FileTime& out)
 {
     return DoneSystem(clock_.FromLocal(time, out) ? 0 : EINVAL);

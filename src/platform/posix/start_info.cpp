@@ -47,14 +47,6 @@ bool IsPortable(const std::string& folder)
            && ::access(folder.c_str(), W_OK) == 0;
 }
 
-// Relative paths in it are to be passed over.
-std::string ConfigFolder()
-{
-    const char* set = std::getenv("XDG_CONFIG_HOME");
-    const std::string folder = set ? set : "";
-    return folder.starts_with('/') ? folder + "/" : HomeFolder() + ".config/";
-}
-
 // The first of these that is there, with no detours in its path; else empty.
 std::string InstalledEntry(const std::string& executablePath, std::string_view name)
 {
@@ -157,7 +149,7 @@ std::string AppFolder_Find(const std::string& executablePath)
     std::string own = OwnFolder(executablePath);
     if (!own.empty() && IsPortable(own))
         return own;
-    return ConfigFolder() + "tavo/";
+    return ConfigHomeFolder() + "tavo/";
 }
 
 void AppFolder_Prepare(const std::string& appFolder, const std::string& executablePath)
