@@ -13,6 +13,7 @@ void Cmd_NewList(Program& p, Tool& tool);
 void Cmd_CreateList(Program& p, Tool& tool);
 void Cmd_DefSave(Program& p, Tool& tool);
 void Cmd_DefLoad(Program& p, Tool& tool);
+void Cmd_ExportList(Program& p, Tool& tool);
 void Cmd_Exit(Program& p, Tool& tool);
 void Cmd_EditUndo(Program& p, Tool& tool);
 void Cmd_Cut(Program& p, Tool& tool);
@@ -23,6 +24,7 @@ void Cmd_AddressBar(Program& p, Tool& tool);
 void Cmd_TextLabels(Program& p, Tool& tool);
 void Cmd_HelpContents(Program& p, Tool& tool);
 void Cmd_HelpIndex(Program& p, Tool& tool);
+void Cmd_About(Program& p, Tool& tool);
 
 // Selection screen (command_handlers_select.cpp)
 void Cmd_SelAll(Program& p, Tool& tool);
@@ -57,6 +59,7 @@ void Cmd_TmpApply(Program& p, Tool& tool);
 void Cmd_TmpApplySel(Program& p, Tool& tool);
 
 // Thumbnails (command_handlers_thumbs.cpp)
+void Cmd_ThumbLayout(Program& p, Tool& tool);
 void Cmd_ThumbClear(Program& p, Tool& tool);
 void Cmd_ThumbCreateAll(Program& p, Tool& tool);
 void Cmd_ThumbCreateSel(Program& p, Tool& tool);
@@ -64,6 +67,18 @@ void Cmd_ThumbUpdateAll(Program& p, Tool& tool);
 void Cmd_ThumbUpdateSel(Program& p, Tool& tool);
 void Cmd_ThumbCaption(Program& p, Tool& tool);
 void Cmd_Align(Program& p, Tool& tool);
+void Cmd_SchemeAdd(Program& p, Tool& tool);
 void Cmd_SchemeDefault(Program& p, Tool& tool);
+
+// What opens the settings (command_handlers_settings.cpp). Refused while a long
+// operation is under way.
+void Cmd_Settings(Program& p, Tool& tool);
+void Cmd_FavAdd(Program& p, Tool& tool);
+void Cmd_FilAdd(Program& p, Tool& tool);
+void Cmd_WinAdd(Program& p, Tool& tool);
+void Cmd_FavOrganize(Program& p, Tool& tool);
+void Cmd_TmpOrg(Program& p, Tool& tool);
+void Cmd_WinOrganize(Program& p, Tool& tool);
+void Cmd_TSchemesOrg(Program& p, Tool& tool);
 
 } // namespace tavo

@@ -1,9 +1,11 @@
 #include "core/command_handlers.h"
 
+#include "controls/frm_about.h"
 #include "core/screens.h"
 #include "core/tools.h"
 #include "core/windows.h"
 #include "renamelist/rename_list.h"
+#include "selection/frm_export_dir.h"
 #include "selection/selection_screen.h"
 #include "settings/settings_file.h"
 #include "viewer/frm_viewer.h"
@@ -67,6 +69,12 @@ void Cmd_DefLoad(Program& p, Tool&)
     // A run stands on the mode and the options that this would change.
     if (!p.Busy() && p.state.CurScreen != screenAction)
         Ini_Load(p, "Defaults", Ini_OwnFile(p));
+}
+
+void Cmd_ExportList(Program& p, Tool&)
+{
+    if (!p.Busy())
+        p.desktop.ShowModal(p.ExportDir());
 }
 
 void Cmd_Exit(Program& p, Tool&)
@@ -134,6 +142,11 @@ void Cmd_HelpContents(Program& p, Tool&)
 void Cmd_HelpIndex(Program& p, Tool&)
 {
     Help_Show(p, "Index");
+}
+
+void Cmd_About(Program& p, Tool&)
+{
+    About_Show(p, p.main);
 }
 
 } // namespace tavo

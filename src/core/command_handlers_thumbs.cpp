@@ -1,6 +1,7 @@
 #include "core/command_handlers.h"
 
 #include "core/tools.h"
+#include "thumbnails/frm_thumb_editor.h"
 #include "thumbnails/thumb_grid.h"
 
 namespace tavo {
@@ -16,6 +17,12 @@ constexpr AlignTool alignTools[] = {
     {"ID_AlignLeft", 0}, {"ID_AlignRight", 1}, {"ID_AlignCenter", 2}};
 
 } // namespace
+
+void Cmd_ThumbLayout(Program& p, Tool&)
+{
+    if (!p.Busy())
+        Thumb_Layout_Edit(p);
+}
 
 void Cmd_ThumbClear(Program& p, Tool&)
 {
@@ -52,6 +59,13 @@ void Cmd_Align(Program& p, Tool& tool)
     for (const AlignTool& row : alignTools)
         if (row.Id == tool.Name())
             Thumb_Align(p, row.Alignment);
+}
+
+// In the mode that its last caller left.
+void Cmd_SchemeAdd(Program& p, Tool&)
+{
+    if (!p.Busy())
+        Thumb_Editor_Show(p);
 }
 
 void Cmd_SchemeDefault(Program& p, Tool&)

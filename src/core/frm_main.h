@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/raised_border.h"
 #include "toolkit/buttons.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/control_array.h"
@@ -37,7 +38,7 @@ public:
     Label lblSelDBX{*this, "lblSelDBX"}, lblSelDBY{*this, "lblSelDBY"};
 
     // The panels of the rename modes, one a mode; 7 is the empty list's
-    ControlArray<Frame> ctlRbRenMode{*this, "ctlRbRenMode", 0, 7};
+    ControlArray<RaisedBorder> ctlRbRenMode{*this, "ctlRbRenMode", 0, 7};
 
     Frame fraAttribCtr{*this, "fraAttribCtr"};
     ControlArray<CheckBox> chkAttr{*this, "chkAttr", 0, 3};

@@ -43,6 +43,19 @@ void Entries_EndFrom(ToolBars& bars, const std::string& prefix, int index)
         bars.RemoveTool(prefix + std::to_string(index++));
 }
 
+struct ListMenuPlan {
+    NamedList SharedState::*List;
+    const char *Icon, *Prefix;
+    int FirstPos;
+    const char* MenuId;
+};
+constexpr ListMenuPlan listMenus[] = {
+    {&SharedState::Favorites, "folder", "ID_Favorite", 4, "ID_mnuFavorites"},
+    {&SharedState::Templates, "text-x-generic", "ID_TmpLst", 5, "ID_mnuTemplates"},
+    {&SharedState::ThumbSchemes, "image-x-generic", "ID_Scheme", 4, "ID_mnuTSchemes"},
+    {&SharedState::Windows, "window-new", "ID_Window", 5, "ID_mnuWindow"},
+};
+
 } // namespace
 
 void Menu_Rebuild(ToolBars& bars, const NamedList& list, const std::string& icon,
@@ -58,6 +71,14 @@ void Menu_Rebuild(ToolBars& bars, const NamedList& list, const std::string& icon
         Separator_Add(bars, menu, "Sep" + prefix);
     for (int i = 1; i <= List_Last(list); ++i)
         Entry_Add(bars, menu, prefix + std::to_string(i), list[static_cast<std::size_t>(i)], icon);
+}
+
+void ListMenu_Rebuild(Program& p, NamedList SharedState::*list)
+{
+    for (const ListMenuPlan& menu : listMenus)
+        if (menu.List == list)
+            Menu_Rebuild(p.main.atbMain, p.state.*list, menu.Icon, menu.Prefix, menu.FirstPos,
+                         menu.MenuId);
 }
 
 void Filter_Choose(Program& p, int row)

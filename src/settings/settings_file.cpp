@@ -103,7 +103,7 @@ std::vector<std::string> Key_Names(Program& p, const std::string& section, const
 void Favorites_Load(Program& p, const std::string& section, const std::string& file)
 {
     Ini_ReadList(p, section, p.state.Favorites, file, 30);
-    Menu_Rebuild(p.main.atbMain, p.state.Favorites, "folder", "ID_Favorite", 4, "ID_mnuFavorites");
+    ListMenu_Rebuild(p, &SharedState::Favorites);
     FavPath_Rebuild(p);
 }
 
@@ -118,8 +118,7 @@ void Templates_Load(Program& p, const std::string& section, const std::string& f
 {
     Ini_ReadList(p, section, p.state.Templates, file, 30);
     p.state.Templates[0] = {"Empty", "<E>:<E>"};
-    Menu_Rebuild(p.main.atbMain, p.state.Templates, "text-x-generic", "ID_TmpLst", 5,
-                 "ID_mnuTemplates");
+    ListMenu_Rebuild(p, &SharedState::Templates);
 }
 
 void Schemes_Load(Program& p, const std::string& section, const std::string& file)
@@ -131,14 +130,13 @@ void Schemes_Load(Program& p, const std::string& section, const std::string& fil
     p.state.Scheme = builtIn;
     Thumb_Look_Begin(p);
     p.main.tmrRedrawThumbs.Interval = redrawDelayMs;
-    Menu_Rebuild(p.main.atbMain, p.state.ThumbSchemes, "image-x-generic", "ID_Scheme", 4,
-                 "ID_mnuTSchemes");
+    ListMenu_Rebuild(p, &SharedState::ThumbSchemes);
 }
 
 void Windows_Load(Program& p, const std::string& section, const std::string& file)
 {
     Ini_ReadList(p, section, p.state.Windows, file, 30);
-    Menu_Rebuild(p.main.atbMain, p.state.Windows, "window-new", "ID_Window", 5, "ID_mnuWindow");
+    ListMenu_Rebuild(p, &SharedState::Windows);
 }
 
 // The keys only number the words; they come in the file's order.

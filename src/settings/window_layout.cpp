@@ -51,6 +51,15 @@ void Place_Apply(Form& form, const Place& place)
             form.SetState(state);
 }
 
+std::string Place_Text(const Form* form)
+{
+    if (!form || !form->Visible())
+        return std::string(nowhereRecord);
+    if (form->State() == WindowState::Normal)
+        return Pos_Text(*form);
+    return "0,0,0,0," + IntToText(static_cast<int>(form->State()));
+}
+
 } // namespace
 
 std::string Pos_Text(const Form& form)
@@ -75,6 +84,11 @@ void Win_Layout_Apply(Program& p, const std::string& record)
     Place_Apply(p.main, Place_Take(rest));
     if (FrmViewer* viewer = p.ViewerInSight())
         Place_Apply(*viewer, Place_Take(rest));
+}
+
+std::string Win_Layout_Text(Program& p)
+{
+    return Place_Text(&p.main) + "," + Place_Text(p.ViewerInSight());
 }
 
 } // namespace tavo

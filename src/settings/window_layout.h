@@ -25,4 +25,8 @@ std::string Pos_Text(const WindowPos& pos);
 // count while it is in sight.
 void Win_Layout_Apply(Program& p, const std::string& record);
 
+// The record of the windows as they stand, which Win_Layout_Apply takes. A
+// window that is not in sight, or not in the normal state, has no place in it.
+std::string Win_Layout_Text(Program& p);
+
 } // namespace tavo

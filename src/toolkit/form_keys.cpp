@@ -1,5 +1,6 @@
 #include "toolkit/caption.h"
 #include "toolkit/form.h"
+#include "toolkit/tab_strip.h"
 #include "toolkit/tool_bars.h"
 #include "toolkit/unicode_case.h"
 
@@ -36,6 +37,28 @@ char32_t MnemonicOf(const Key& key)
     const bool digit = key.Code >= '0' && key.Code <= '9';
     return letter || digit ? SimpleFold(static_cast<char32_t>(key.Code)) : 0;
 }
+
+// The strips of pages of a form, for telling what lies on a page behind.
+class FrontPages {
+public:
+    explicit FrontPages(const std::vector<Control*>& controls)
+    {
+        for (const Control* control : controls)
+            if (const auto* strip = dynamic_cast<const TabStrip*>(control))
+                strips_.push_back(strip);
+    }
+
+    bool Show(const Control& control) const
+    {
+        return std::all_of(strips_.begin(), strips_.end(), [&](const TabStrip* strip) {
+            const int page = strip->PageOf(control);
+            return page < 0 || page == strip->Selected();
+        });
+    }
+
+private:
+    std::vector<const TabStrip*> strips_;
+};
 
 } // namespace
 
@@ -82,10 +105,11 @@ void Form::EnterFrom(const Control* from, bool backwards)
     int at = static_cast<int>(found - controls_.begin());
     if (at == count)
         at = backwards ? 0 : count - 1;
+    const FrontPages front(controls_);
     for (int tries = 0; tries < count; ++tries) {
         at = (at + step) % count;
         Control& next = *controls_[static_cast<size_t>(at)];
-        if (CanEnter(next))
+        if (CanEnter(next) && front.Show(next))
             return Enter(next);
     }
 }
@@ -155,11 +179,14 @@ bool Form::PressMnemonic(const Key& key)
     const auto active = std::find(order.begin(), order.end(), active_);
     if (active != order.end())
         std::rotate(order.begin(), active + 1, order.end());
+    const FrontPages front(controls_);
     for (Control* control : order) {
+        if (auto* strip = dynamic_cast<TabStrip*>(control); strip && strip->PersonLetter(letter))
+            return true;
         const std::string* caption = control->MnemonicCaption();
         if (!caption || Caption_Mnemonic(*caption) != letter)
             continue;
-        if (!control->IsShown() || !control->IsUsable())
+        if (!control->IsShown() || !control->IsUsable() || !front.Show(*control))
             continue;
         control->PersonMnemonic();
         return true;

@@ -1,5 +1,6 @@
 #include "toolkit/tab_strip.h"
 
+#include "toolkit/caption.h"
 #include "toolkit/numbers.h"
 #include "toolkit/property_table.h"
 
@@ -60,12 +61,21 @@ bool TabStrip::PersonTab(int page)
 {
     if (page < 0 || page >= static_cast<int>(pages_.size()) || !IsShown() || !IsUsable())
         return false;
+    SetFocus();
     if (page == selected_)
         return true;
     Leaving();
     if (Show(page))
         TabClick();
     return true;
+}
+
+bool TabStrip::PersonLetter(char32_t letter)
+{
+    for (std::size_t page = 0; page < pages_.size(); ++page)
+        if (Caption_Mnemonic(pages_[page].Caption) == letter)
+            return PersonTab(static_cast<int>(page));
+    return false;
 }
 
 void TabStrip::PersonKey(const Key& key)

@@ -32,11 +32,14 @@ public:
     // The page that holds the control, however deep; -1 for none.
     int PageOf(const Control& control) const;
 
-    // A person goes to this page: Leaving is raised while the old one is still
-    // in front, TabClick when the new one is. The page that is in front already
-    // raises nothing.
+    // A person goes to this page: the strip takes the focus, Leaving is raised while the old one is
+    // still in front, TabClick when the new one is. The page that is in front already raises
+    // nothing.
     bool PersonTab(int page);
     Event<> Leaving, TabClick;
+    // The same by Alt and the letter that a page's caption marks, as
+    // Caption_Mnemonic gives it. False when no page has that letter.
+    bool PersonLetter(char32_t letter);
     // Left and Right go to the page beside, Home and End to the ends.
     void PersonKey(const Key& key) override;
 

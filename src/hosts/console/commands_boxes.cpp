@@ -2,6 +2,8 @@
 #include "hosts/console/commands.h"
 #include "toolkit/buttons.h"
 #include "toolkit/form.h"
+#include "toolkit/list_box.h"
+#include "toolkit/tab_strip.h"
 #include "toolkit/tool_bars.h"
 #include "toolkit/utf8.h"
 
@@ -123,11 +125,18 @@ bool Do_Focus(Session& session, const Words& words, Outcome& outcome)
 bool Do_Choose(Session& session, const Words& words, Outcome& outcome)
 {
     int row = 0;
-    auto* const combo = Reach_Kind<ComboBox>(session, words[0], "list to choose from", outcome);
-    if (combo == nullptr || !Read_Whole(words[1], row, outcome))
+    Named found;
+    if (!session.Find(words[0], found, outcome))
         return false;
-    combo->SetFocus();
-    return combo->PersonChoose(row) || outcome.Fail(words[0] + " has no row " + words[1]);
+    auto* const combo = dynamic_cast<ComboBox*>(found.Target);
+    auto* const list = dynamic_cast<ListBox*>(found.Target);
+    if (!combo && !list)
+        return outcome.Fail(words[0] + " is no list to choose from");
+    if (!session.Reach(words[0], found, outcome) || !Read_Whole(words[1], row, outcome))
+        return false;
+    found.Target->SetFocus();
+    const bool done = combo ? combo->PersonChoose(row) : list->PersonChoose(row);
+    return done || outcome.Fail(words[0] + " has no row " + words[1]);
 }
 
 bool Do_DropDown(Session& session, const Words& words, Outcome& outcome)
@@ -144,7 +153,15 @@ bool Do_DropDown(Session& session, const Words& words, Outcome& outcome)
 bool Do_Tab(Session& session, const Words& words, Outcome& outcome)
 {
     Named found;
-    return session.Find(words[0], found, outcome) && outcome.Fail(words[0] + " has no pages");
+    if (!session.Find(words[0], found, outcome))
+        return false;
+    auto* const strip = dynamic_cast<TabStrip*>(found.Target);
+    if (strip == nullptr)
+        return outcome.Fail(words[0] + " has no pages");
+    if (!session.Reach(words[0], found, outcome))
+        return false;
+    return strip->PersonTab(strip->PageByKey(words[1]))
+           || outcome.Fail(words[0] + " has no page " + words[1]);
 }
 
 } // namespace

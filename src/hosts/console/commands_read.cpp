@@ -4,6 +4,7 @@
 #include "hosts/console/commands.h"
 #include "hosts/console/control_face.h"
 #include "toolkit/combo_box.h"
+#include "toolkit/list_box.h"
 
 namespace tavo::console {
 
@@ -118,6 +119,11 @@ bool Do_Items(Session& session, const Words& words, Outcome& outcome)
         return false;
     if (const auto* const combo = dynamic_cast<ComboBox*>(found.Target)) {
         for (const std::string& item : combo->Items())
+            outcome.Print(item);
+        return true;
+    }
+    if (const auto* const list = dynamic_cast<ListBox*>(found.Target)) {
+        for (const std::string& item : list->Items())
             outcome.Print(item);
         return true;
     }

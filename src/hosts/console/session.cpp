@@ -4,6 +4,7 @@
 #include "core/program.h"
 #include "hosts/console/commands.h"
 #include "hosts/console/script_line.h"
+#include "toolkit/tab_strip.h"
 
 #include <algorithm>
 #include <iostream>
@@ -277,11 +278,37 @@ bool Session::ReachForm(Form& form, Outcome& outcome)
     return true;
 }
 
+namespace {
+
+// The strip that holds the control on a page behind, and that page.
+TabStrip* Strip_Of(const Control& control, int& page)
+{
+    for (Control* const other : control.Owner().Controls())
+        if (auto* const strip = dynamic_cast<TabStrip*>(other)) {
+            page = strip->PageOf(control);
+            if (page >= 0 && page != strip->Selected())
+                return strip;
+        }
+    return nullptr;
+}
+
+} // namespace
+
 bool Session::Reach(const std::string& name, const Named& found, Outcome& outcome)
 {
     const Control& control = *found.Target;
     if (!found.Window->Visible() || !control.IsShown())
         return outcome.Fail(name + " is not visible");
+    int page = -1;
+    TabStrip* const strip = Strip_Of(control, page);
+    // To come to the front may enable it, or put it away.
+    if (strip && strip->IsUsable()) {
+        if (!ReachForm(*found.Window, outcome))
+            return false;
+        strip->PersonTab(page);
+        if (!found.Window->Visible() || !control.IsShown())
+            return outcome.Fail(name + " is not visible");
+    }
     if (!control.IsUsable())
         return outcome.Fail(name + " is disabled");
     return ReachForm(*found.Window, outcome);
