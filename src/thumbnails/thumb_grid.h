@@ -45,6 +45,9 @@ void Thumb_Caption_Flip(Program& p);
 void Thumb_Align(Program& p, int alignment);
 // The side column at the look's size.
 void Thumb_Side_Fit(Program& p);
+// Lets the person edit the look in force, and fits all to what it is then
+// (thumb_layout_edit.cpp).
+void Thumb_Layout_Edit(Program& p);
 
 // What the mouse does in the grid (thumb_mouse.cpp, thumb_drop.cpp), the timers
 // and what the grid hears of the list.

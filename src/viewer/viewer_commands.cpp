@@ -1,3 +1,4 @@
+#include "controls/frm_about.h"
 #include "controls/frm_color.h"
 #include "core/frm_main.h"
 #include "core/program.h"
@@ -275,6 +276,12 @@ void Cmd_ViewTextLabels(Program& p, Tool& tool)
 void Cmd_ViewHelp(Program& p, Tool&)
 {
     Help_Show(p, "Topic");
+}
+
+void Cmd_ViewAbout(Program& p, Tool&)
+{
+    if (FrmViewer* v = Viewer_Find(p))
+        About_Show(p, *v);
 }
 
 void Cmd_ViewExit(Program& p, Tool&)

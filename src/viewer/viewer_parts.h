@@ -61,6 +61,7 @@ void Cmd_ViewPrev(Program& p, Tool& tool);
 void Cmd_ViewShowTavo(Program& p, Tool& tool);
 void Cmd_ViewTextLabels(Program& p, Tool& tool);
 void Cmd_ViewHelp(Program& p, Tool& tool);
+void Cmd_ViewAbout(Program& p, Tool& tool);
 void Cmd_ViewExit(Program& p, Tool& tool);
 void Cmd_ViewPlayForward(Program& p, Tool& tool);
 void Cmd_ViewPlayReverse(Program& p, Tool& tool);

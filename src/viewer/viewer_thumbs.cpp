@@ -44,6 +44,12 @@ bool Gif_IsLeftOut(const Program& p, int row)
     return p.state.Gif == 0 && UCase(Right(p.main.lsvRename.Text(row), endingLength)) == ".GIF";
 }
 
+Desktop::PictureBound Look_Bound(const Program& p)
+{
+    const ThumbLook& look = p.state.ThumbLook;
+    return {std::max<int>(1, look.Width), std::max<int>(1, look.Height)};
+}
+
 BitmapPtr Thumb_Draw(Program& p, PictureBox& surface, const Bitmap& picture)
 {
     const PixelSize size = Thumb_Fit(p.state.ThumbLook, picture.Width(), picture.Height());
@@ -76,10 +82,15 @@ void Viewer_Thumb_Make(Program& p, int row)
     const bool isWanted = v && p.state.AutoThumbs == 1 && !p.Busy();
     if (!isWanted || !Viewer_HasRow(p, row) || Slot_Of(p, row) != 0 || Gif_IsLeftOut(p, row))
         return;
-    const BitmapPtr picture = p.desktop.LoadPicture(Viewer_File(p, row), {});
+    // Loaded anew. Where the picture is in sight already it keeps all its dots,
+    // and this load can be a small one, which takes a fraction of the time.
+    const bool isInSight = v->imgOriginal.Picture.Get().Shown == PictureRef::Kind::Bitmap;
+    const Desktop::PictureBound bound = isInSight ? Look_Bound(p) : Desktop::PictureBound();
+    const BitmapPtr picture = p.desktop.LoadPicture(Viewer_File(p, row), bound);
     if (!picture)
         return;
-    v->imgOriginal.Picture = PictureRef::OfBitmap(picture);
+    if (!isInSight)
+        v->imgOriginal.Picture = PictureRef::OfBitmap(picture);
     const BitmapPtr thumbnail = Thumb_Draw(p, v->picThumbMake, *picture);
     if (!thumbnail)
         return;

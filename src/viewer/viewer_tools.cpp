@@ -43,7 +43,8 @@ constexpr Command table[] = {
      "Display Text Labels under Toolbar Buttons", "", "", "Toolbars", Cmd_ViewTextLabels},
     {"ID_HelpContents", button, "&Help Topics", "Open the Help File", "", "help-contents", "",
      "Help", Cmd_ViewHelp},
-    {"ID_About", button, "&About", "Shows the About Form", "", "help-about", "", "Help", nullptr},
+    {"ID_About", button, "&About", "Shows the About Form", "", "help-about", "", "Help",
+     Cmd_ViewAbout},
     {"ID_Exit", button, "E&xit", "Exits", "", "application-exit", "", "Window", Cmd_ViewExit},
 };
 

@@ -28,7 +28,7 @@ TEST(ViewerCommands, Every_button_does_something_but_those_that_are_named_here)
     for (const Command& command : Viewer_Commands())
         if ((command.Kind == ToolKind::Button || command.Kind == ToolKind::Toggle) && !command.Run)
             without.insert(command.Id);
-    EXPECT_EQ(without, (Ids{"ID_ShowPreview", "ID_About"}));
+    EXPECT_EQ(without, (Ids{"ID_ShowPreview"}));
 }
 
 TEST(ViewerCommands, Every_entry_of_a_band_is_a_tool_and_every_menu_has_its_entries)
