@@ -199,7 +199,7 @@ void FrmColor::FieldChanged(int index)
         return;
     }
     const bool before = std::exchange(filling_, true);
-    hsbColor[index].Value = static_cast<int>(value);
+    hsbColor[index].Value = static_cast<int>(RoundHalfEven(value));
     filling_ = before;
     if (!filling_)
         Mix();
@@ -219,7 +219,7 @@ void FrmColor::Mix()
 {
     std::uint8_t parts[3] = {};
     for (int i = 1; i <= 3; ++i)
-        parts[i - 1] = static_cast<std::uint8_t>(Val(txtColor[i].Text.Get()));
+        AssignChecked(parts[i - 1], Val(txtColor[i].Text.Get()));
     picColorNew.BackColor = RGB::Pack(parts[0], parts[1], parts[2]);
 }
 

@@ -84,6 +84,9 @@ void Cells_Count(Program& p)
     while (main.imgThumbs.High() < wanted)
         Cell_Load(p);
     while (main.imgThumbs.High() > wanted) {
+        // What would it drop, and whose pointer would it show?
+        if (main.DragSource() == main.imgThumbs.At(main.imgThumbs.High()))
+            main.PersonDragCancel();
         main.lblThumbs.Unload();
         main.imgThumbs.Unload();
         main.shpThumbsSel.Unload();
@@ -106,17 +109,16 @@ void Cells_Place(Program& p, const Step& step)
     }
 }
 
-// The last line that may stand at the top. The bar's ends have 16 bits.
+// The last line that may stand at the top; the first one where there are no
+// columns, or more lines than 16 bits count.
 void Bar_Set(Program& p)
 {
     const SharedState& s = p.state;
     ScrollBar& bar = p.main.vsbThumbs;
-    if (s.Columns != 0) {
-        std::int16_t last = 0;
-        const double lines = static_cast<double>(s.RenCount) / s.Columns - s.Rows + lineShare;
-        if (AssignChecked(last, lines))
-            bar.Max = std::max<int>(last, bar.Min);
-    }
+    std::int16_t last = 0;
+    if (s.Columns != 0)
+        AssignChecked(last, static_cast<double>(s.RenCount) / s.Columns - s.Rows + lineShare);
+    bar.Max = std::max<int>(last, bar.Min);
     const bool scrolls = bar.Max != bar.Min && s.Cells < s.RenCount;
     bar.Enabled = scrolls;
     if (scrolls)
@@ -241,6 +243,9 @@ void Thumb_Refresh(Program& p)
         else
             Cell_Hide(p.main, cell);
     }
+    // The first cell stays when there is room for none; it shows no row then.
+    if (p.state.Cells < 1)
+        Cell_Hide(p.main, 1);
 }
 
 void Thumb_Sel_Paint(Program& p)

@@ -66,6 +66,9 @@ void Cell_Pressed(Program& p, int cell, const Control::Mouse& mouse)
     const int row = Cell_Row(p, cell);
     if (p.Busy() || row == 0)
         return;
+    // A page that was left behind by the bar is no page to pick from.
+    if (p.main.imgThumbs[cell].ToolTipText.Get() != p.main.lsvRename.Text(row))
+        return Thumb_Refresh(p);
     Drag_Mark(p.state, mouse);
     if (mouse.Button == leftButton) {
         p.state.LastRow = row;

@@ -322,7 +322,8 @@ TEST_F(ColorForm, What_is_pasted_is_held_to_a_byte)
         int Green;
     };
     for (const Row& row : {Row{"", "0", 0}, Row{"-9", "0", 0}, Row{"999", "255", 255},
-                           Row{"12", "12", 12}, Row{"9e9", "255", 255}, Row{"abc", "abc", 0}}) {
+                           Row{"12", "12", 12}, Row{"9.9", "9.9", 10}, Row{"2.5", "2.5", 2},
+                           Row{"9e9", "255", 255}, Row{"abc", "abc", 0}}) {
         Open(0x0A640C, true);
         form().txtColor[2].PersonText(row.Pasted);
         EXPECT_EQ(form().txtColor[2].Text.Get(), row.Text) << row.Pasted;

@@ -44,6 +44,19 @@ TEST(ThumbDrag, A_box_that_holds_nothing_shows_and_moves_nothing)
     EXPECT_EQ(g.F().DragSource(), nullptr);
 }
 
+TEST(ThumbDrag, A_cell_that_goes_ends_its_drag)
+{
+    ThumbGround g(10);
+    g.Show(2, 2);
+    g.Drag(4);
+    Icon_Over(g, g.F().lblThumbsSU, 15);
+    EXPECT_TRUE(g.F().tmrThumbsScrollU.Enabled);
+    g.Room(1, 2);
+    EXPECT_EQ(g.F().imgThumbs.High(), 2);
+    EXPECT_EQ(g.F().DragSource(), nullptr);
+    EXPECT_FALSE(g.F().tmrThumbsScrollU.Enabled);
+}
+
 struct StripCase {
     Label FrmMain::*Strip;
     Timer FrmMain::*Scroll;

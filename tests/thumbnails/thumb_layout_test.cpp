@@ -80,6 +80,9 @@ TEST(ThumbLayout, A_window_narrower_than_a_cell_has_no_columns_and_still_a_line)
     EXPECT_EQ(g.S().Rows, 1);
     EXPECT_EQ(g.S().Cells, 0);
     EXPECT_EQ(g.F().imgThumbs.High(), 1);
+    EXPECT_FALSE(g.F().imgThumbs[1].Visible) << "it would show a row that it does not stand for";
+    EXPECT_EQ(g.F().vsbThumbs.Max, 1);
+    EXPECT_FALSE(g.F().vsbThumbs.Enabled);
     g.Pictures(8, 8);
     Thumb_Create(g.P(), true);
     EXPECT_EQ(g.List().Tag(5), "5");

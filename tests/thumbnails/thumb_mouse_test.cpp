@@ -85,6 +85,21 @@ TEST(ThumbMouse, The_cell_stands_for_the_row_that_is_scrolled_there)
     EXPECT_EQ(g.S().LastRow, 6);
 }
 
+TEST(ThumbMouse, A_press_on_a_page_that_the_bar_has_left_only_shows_the_right_one)
+{
+    ThumbGround g(9);
+    g.Show(2, 2);
+    g.F().vsbThumbs.PersonDrag(3);
+    Thumb_Refresh(g.P()); // by a timer, while the thumb is held
+    g.F().vsbThumbs.PersonScroll(1);
+    const std::string selected = g.Selected();
+    g.Press(2);
+    EXPECT_EQ(g.Selected(), selected);
+    EXPECT_EQ(g.F().imgThumbs[2].ToolTipText.Get(), "a02.jpg");
+    g.Press(2);
+    EXPECT_EQ(g.Selected(), "2");
+}
+
 TEST(ThumbMouse, The_background_takes_the_selection_away)
 {
     ThumbGround g(4);

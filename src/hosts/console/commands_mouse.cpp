@@ -137,8 +137,12 @@ bool Drag_To(Session& session, const Words& words, Named& from, Outcome& outcome
     double x = 0, y = 0;
     Named to;
     if (!Read_Number(words[2], x, outcome) || !Read_Number(words[3], y, outcome)
-        || !session.Find(words[0], from, outcome) || !session.Reach(words[0], from, outcome)
-        || !session.Find(words[1], to, outcome) || !session.Reach(words[1], to, outcome))
+        || !session.Find(words[0], from, outcome))
+        return false;
+    // What hovers may have been scrolled away under the pointer.
+    const bool hovers = from.Window->DragSource() == from.Target;
+    if ((!hovers && !session.Reach(words[0], from, outcome)) || !session.Find(words[1], to, outcome)
+        || !session.Reach(words[1], to, outcome))
         return false;
     if (dynamic_cast<ListView*>(from.Target))
         return true;
