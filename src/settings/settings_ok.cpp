@@ -47,7 +47,7 @@ void Templates_TakeUp(Program& p)
 }
 
 // What shows a list is made to match it.
-void List_TakeUp(Program& p, const ListPage& page)
+void List_TakeUp(Program& p, const SettingsList& page)
 {
     ListMenu_Rebuild(p, page.List);
     switch (page.Page) {
@@ -74,7 +74,7 @@ void All_Save(Program& p)
         CaseWords_Read(p);
         Ini_Save(p, "CaseWordList", file);
     }
-    for (const ListPage& page : Settings_ListPages())
+    for (const SettingsList& page : Settings_ListPages())
         if (IsDirty(p, page.Page)) {
             Settings_List_Read(p.Settings().lsvSettings[page.Page], p.state.*page.List);
             Ini_Save(p, std::string(page.Section), file);
@@ -114,7 +114,7 @@ void Settings_Ok(Program& p)
     {
         const BusyPointer busy(p);
         All_Save(p);
-        for (const ListPage& page : Settings_ListPages())
+        for (const SettingsList& page : Settings_ListPages())
             if (IsDirty(p, page.Page))
                 List_TakeUp(p, page);
     }

@@ -117,10 +117,10 @@ void Page_Wire(Program& p, FrmSettings& form, int page)
 
 } // namespace
 
-const std::array<ListPage, 5>& Settings_ListPages()
+const std::array<SettingsList, 5>& Settings_ListPages()
 {
     using S = SharedState;
-    static constexpr std::array<ListPage, 5> pages{{
+    static constexpr std::array<SettingsList, 5> pages{{
         {pageTemplates, &S::Templates, "Templates", "Tmp"},
         {pageFavorites, &S::Favorites, "Favorites", "Fav"},
         {pageFilters, &S::Filters, "Filters", "Fil"},
@@ -145,7 +145,7 @@ void Settings_Pages_Wire(Program& p, FrmSettings& form)
 void Settings_Pages_Fill(Program& p)
 {
     FrmSettings& form = p.Settings();
-    for (const ListPage& page : Settings_ListPages()) {
+    for (const SettingsList& page : Settings_ListPages()) {
         form.lsvSettings[page.Page].Order = p.main.lsvRename.Order;
         Settings_List_Fill(form.lsvSettings[page.Page], p.state.*page.List, page.ShortName);
         Settings_Buttons_Set(p, page.Page);

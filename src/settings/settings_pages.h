@@ -13,13 +13,13 @@ namespace tavo {
 
 // A list page: the named list behind it, its section of the settings file, and
 // the short name that its rows' icons go by.
-struct ListPage {
+struct SettingsList {
     SettingsPage Page;
     NamedList SharedState::*List;
     std::string_view Section, ShortName;
 };
 // In the order in which they are filled and saved.
-const std::array<ListPage, 5>& Settings_ListPages();
+const std::array<SettingsList, 5>& Settings_ListPages();
 
 // Makes the list anew from the named list: rows 1 and up, the first one
 // selected.

@@ -100,7 +100,7 @@ TEST(PictureDamage, Flipped_bits_harm_nobody)
                 round % 2 == 0 ? std::min<std::size_t>(bytes.size(), 96) : bytes.size();
             const auto flips = 1 + chance() % 8;
             for (unsigned flip = 0; flip < flips; ++flip)
-                bytes[chance() % reach] ^= static_cast<char>(1u << chance() % 8);
+                Bit_Flip(bytes[chance() % reach], chance() % 8);
             Try(folder, bytes, sample.Name + ", round " + std::to_string(round));
         }
     }
@@ -282,7 +282,7 @@ TEST(PictureDamage, Empty_and_enormous_promises_are_none_and_cost_no_memory)
         EXPECT_FALSE(Load(folder.Path("picture"))) << promise.Name;
         EXPECT_FALSE(Load(folder.Path("picture"), {64, 64})) << promise.Name;
     }
-    constexpr long mostKilobytes = 256 * 1024;
+    constexpr long mostKilobytes = 256L * 1024;
     EXPECT_LT(PeakKilobytes(RUSAGE_SELF) - before, mostKilobytes);
     // Of all workers up to now this is the greediest one.
     EXPECT_LE(PeakKilobytes(RUSAGE_CHILDREN), std::max(workers, mostKilobytes));
@@ -321,7 +321,8 @@ TEST(PictureDamage, Drawings_that_never_end_are_given_up)
                                         groups += "<g>";
                                     return groups;
                                 }()},
-        {"much out of little", Gzip_Packed(head + std::string(50'000'000, ' ') + "</svg>")},
+        {"much out of little",
+         Gzip_Packed(head + QByteArray(50'000'000, ' ').toStdString() + "</svg>")},
         {"an endless picture inside", head
                                           + "<image width=\"9\" height=\"9\" "
                                             "xlink:href=\"/dev/zero\"/></svg>"},

@@ -65,7 +65,7 @@ TEST(PictureReduced, A_picture_of_flipped_bits_has_the_verdict_of_the_whole)
         for (int round = 0; round < rounds; ++round) {
             std::string bytes = sample.Bytes;
             for (int flip = 0; flip < 3; ++flip)
-                bytes[chance() % bytes.size()] ^= static_cast<char>(1u << chance() % 8);
+                Bit_Flip(bytes[chance() % bytes.size()], chance() % 8);
             Verdicts_Expect(folder, bytes, sample.Name + ", round " + std::to_string(round));
         }
     }
@@ -176,7 +176,7 @@ TEST(PictureReduced, A_chequered_file_becomes_one_grey)
                 }
             // Where a dot covers few others, one more or less of them counts.
             const int apart = 640 % bound == 0 ? 2 : 640 / bound > 4 ? 16 : 64;
-            EXPECT_NEAR((darkest + lightest) / 2, 127, 8) << format << " in " << bound;
+            EXPECT_NEAR((darkest + lightest) / 2.0, 127, 8) << format << " in " << bound;
             EXPECT_LE(lightest - darkest, apart) << format << " in " << bound;
         }
     }

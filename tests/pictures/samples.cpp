@@ -170,6 +170,11 @@ std::string High(std::uint32_t number, int count)
     return {bytes.rbegin(), bytes.rend()};
 }
 
+void Bit_Flip(char& byte, unsigned bit)
+{
+    byte = static_cast<char>(static_cast<unsigned char>(byte) ^ 1u << bit);
+}
+
 std::uint32_t Checksum(const std::string& bytes)
 {
     std::uint32_t sum = ~0u;

@@ -30,6 +30,9 @@ std::string Bytes_Of(const QImage& image, const char* format, int quality = -1);
 std::string Low(std::uint32_t number, int count);
 std::string High(std::uint32_t number, int count);
 
+// Turns one of the eight bits round.
+void Bit_Flip(char& byte, unsigned bit);
+
 // A PNG or MNG chunk with its length and checksum.
 std::string Chunk(const std::string& name, const std::string& data);
 std::uint32_t Checksum(const std::string& bytes);

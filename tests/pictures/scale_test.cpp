@@ -99,7 +99,7 @@ TEST(PictureScale, A_thin_line_keeps_its_share_wherever_it_is)
             Scale_Smooth(image.transformed(QTransform().rotate(90)), {side / share, side / share});
         EXPECT_NEAR(Means_Of(narrow).Red, 255.0 / side, 0.3) << "column " << place;
         EXPECT_NEAR(Means_Of(low).Red, 255.0 / side, 0.3) << "row " << place;
-        EXPECT_NEAR(qRed(narrow.pixel(place / share, 3)), 255 / share, 2) << "column " << place;
+        EXPECT_NEAR(qRed(narrow.pixel(place / share, 3)), 255.0 / share, 2) << "column " << place;
     }
 }
 

@@ -52,7 +52,7 @@ TEST_F(SettingsOk, All_sections_go_into_the_file_in_one_step)
     form.cmdCWAdd.PersonClick();
     form.cmdOk.PersonClick();
     EXPECT_EQ(rig.Profile.Saves(), before + 1);
-    for (const ListPage& page : Settings_ListPages())
+    for (const SettingsList& page : Settings_ListPages())
         EXPECT_NE(Section(std::string(page.Section)).find("\nExtra="), std::string::npos)
             << page.Section;
     EXPECT_EQ(Section("CaseWordList").find("[CaseWordList]\r\n1=MP3\r\n2=USA\r\n3=DVD"), 0u);

@@ -316,4 +316,20 @@ TEST(WindowLook, Nothing_on_the_bars_is_cut_at_the_default_size)
     }
 }
 
+TEST(WindowLook, The_panel_of_a_mode_stands_out_by_its_edge)
+{
+    for (const QPalette& colours : {lightColours, darkColours}) {
+        Colours_Set in_force(colours);
+        PanelPerson p("window_edge", modeNameNumber, {"a.txt"});
+        auto& panel = p.Of<QWidget>("ctlRbRenMode(" + std::to_string(modeNameNumber) + ")");
+        const QImage shown = panel.grab().toImage();
+        const int right = shown.width() - 1, bottom = shown.height() - 1;
+        const QColor light = colours.color(QPalette::Light), dark = colours.color(QPalette::Dark);
+        EXPECT_EQ(shown.pixel(right / 2, 0), light.rgb());
+        EXPECT_EQ(shown.pixel(0, bottom / 2), light.rgb());
+        EXPECT_EQ(shown.pixel(right / 2, bottom), dark.rgb());
+        EXPECT_EQ(shown.pixel(right, bottom / 2), dark.rgb());
+    }
+}
+
 } // namespace tavo

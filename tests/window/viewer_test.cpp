@@ -1,154 +1,17 @@
-#include "window/person.h"
+#include "window/viewer_person.h"
 
 #include "hosts/qt/bar_view.h"
-#include "hosts/qt/picture_view.h"
 #include "hosts/qt/qt_text.h"
-#include "viewer/frm_viewer.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QBuffer>
-#include <QImage>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
-#include <QScrollBar>
-#include <QStatusBar>
-#include <QStyle>
-#include <QStyleOptionSlider>
-#include <QToolButton>
 #include <QWheelEvent>
 
 namespace tavo {
-
-namespace {
-
-constexpr QColor paper(200, 30, 30), ink(30, 30, 200);
-
-// The left half paper, the right half ink.
-QImage Picture(int width, int height)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(paper);
-    for (int y = 0; y < height; ++y)
-        for (int x = width / 2; x < width; ++x)
-            image.setPixelColor(x, y, ink);
-    return image;
-}
-
-std::string Bmp(const QImage& image)
-{
-    QBuffer bytes;
-    image.save(&bytes, "BMP");
-    return bytes.data().toStdString();
-}
-
-// A person with the viewer: a small picture, a large one, a text, another
-// small picture.
-class ViewerPerson : public Person {
-public:
-    explicit ViewerPerson(std::string_view test,
-                          const std::vector<std::string>& files = {"a.bmp", "b.bmp", "c.txt",
-                                                                   "d.bmp"})
-        : Person(test, files)
-    {
-        for (const std::string& name : files)
-            if (name.ends_with(".bmp"))
-                Folder().Write("files/" + name,
-                               Bmp(name[0] == 'b' ? Picture(2000, 1500) : Picture(64, 48)));
-        RenameAllFiles();
-    }
-
-    FrmViewer& Form() { return Running().Viewer(); }
-    ViewerWindow& Shown() { return *Tavo().Viewer(); }
-    template <class Widget = QWidget>
-    Widget& In(const std::string& name)
-    {
-        auto* widget = Shown().findChild<Widget*>(QString::fromStdString(name));
-        if (!widget)
-            qFatal("no widget %s in the viewer", name.c_str());
-        return *widget;
-    }
-    PictureView& View() { return In<PictureView>("picViewWin"); }
-
-    void Open(int row)
-    {
-        Viewer_Open(Running(), row);
-        Wait();
-    }
-    // Until what the program has changed is shown.
-    void Wait()
-    {
-        for (int turn = 0; turn < 3; ++turn) {
-            QCoreApplication::sendPostedEvents();
-            QCoreApplication::processEvents();
-            Window().Bound().Queue().Flush();
-            if (Tavo().Viewer())
-                Shown().Bound().Queue().Flush();
-        }
-    }
-    QToolButton& Button(const std::string& id)
-    {
-        for (QToolButton* button : Shown().findChildren<QToolButton*>())
-            if (button->defaultAction() && button->defaultAction()->objectName() == ToQt(id))
-                return *button;
-        qFatal("no button for %s", id.c_str());
-    }
-    void Press(const std::string& id)
-    {
-        QTest::mouseClick(&Button(id), Qt::LeftButton);
-        Wait();
-    }
-    void Key(Qt::Key key)
-    {
-        QTest::keyClick(Shown().focusWidget(), key);
-        Wait();
-    }
-    void Resize(int width, int height)
-    {
-        Shown().resize(width, height);
-        Wait();
-    }
-    QString Panel(int number)
-    {
-        return Shown().statusBar()->findChildren<QLabel*>().at(number - 1)->text();
-    }
-    QRect Image()
-    {
-        const ImageBox& image = Form().imgOriginal;
-        return QRectF(image.Left, image.Top, image.Width, image.Height).toRect();
-    }
-    // The colour painted at a place of the view.
-    QColor At(const QPoint& place) { return View().grab().toImage().pixelColor(place); }
-    QColor Middle(double share)
-    {
-        return At(Image().topLeft()
-                  + QPoint(static_cast<int>(Image().width() * share), Image().height() / 2));
-    }
-    QPoint Part(QScrollBar& bar, QStyle::SubControl part)
-    {
-        QStyleOptionSlider option;
-        option.initFrom(&bar);
-        option.minimum = bar.minimum();
-        option.maximum = bar.maximum();
-        option.singleStep = bar.singleStep();
-        option.pageStep = bar.pageStep();
-        option.sliderPosition = option.sliderValue = bar.value();
-        option.orientation = bar.orientation();
-        if (bar.orientation() == Qt::Horizontal)
-            option.state |= QStyle::State_Horizontal;
-        return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar).center();
-    }
-    void ClickPart(QScrollBar& bar, QStyle::SubControl part)
-    {
-        QTest::mouseClick(&bar, Qt::LeftButton, {}, Part(bar, part));
-        Wait();
-    }
-};
-
-} // namespace
 
 TEST(WindowViewer, It_opens_on_the_row_it_is_asked_for)
 {
@@ -294,6 +157,27 @@ TEST(WindowViewer, The_bars_pan)
     EXPECT_EQ(p.Form().vsbImage.Value, down.maximum());
 }
 
+TEST(WindowViewer, What_the_program_scrolls_is_shown_and_not_told_back)
+{
+    ViewerPerson p("viewer_echo");
+    p.Open(2);
+    p.Resize(640, 480);
+    int scrolls = 0, changes = 0;
+    const auto scrolled = p.Form().vsbImage.Scroll.Listen([&] { ++scrolls; });
+    const auto changed = p.Form().vsbImage.Change.Listen([&] { ++changes; });
+    p.Form().vsbImage.Value = 321;
+    p.Wait();
+    EXPECT_EQ(p.In<QScrollBar>("vsbImage").value(), 321);
+    EXPECT_EQ(scrolls, 0);
+    EXPECT_EQ(changes, 1);
+    p.Press("ID_Shrink"); // there is nothing to pan any more
+    auto& bar = p.In<QScrollBar>("vsbImage");
+    EXPECT_EQ(bar.minimum(), bar.maximum());
+    EXPECT_EQ(scrolls, 0);
+    p.Press("ID_Shrink");
+    EXPECT_EQ(bar.maximum(), 1500 - p.View().height());
+}
+
 TEST(WindowViewer, A_large_picture_shrinks_and_a_small_one_grows)
 {
     ViewerPerson p("viewer_fit");
@@ -347,7 +231,7 @@ TEST(WindowViewer, The_window_takes_the_size_of_the_picture)
     p.Open(1);
     p.Shown().move(40, 30);
     p.Resize(600, 500);
-    p.Folder().Write("files/d.bmp", Bmp(Picture(420, 300)));
+    p.Folder().Write("files/d.bmp", Bmp(Halves(420, 300)));
     p.Press("ID_ImgPrev");
     p.Press("ID_SizeWindow");
     EXPECT_EQ(p.View().size(), QSize(420, 300));

@@ -18,7 +18,8 @@ namespace tavo {
 
 namespace {
 
-constexpr int filterChars = 13, modeChars = 14, distanceChars = 4, boxGap = 2;
+constexpr int filterChars = 13, modeChars = 14, numberChars = 4, digitChars = 2;
+constexpr int boxGap = 2;
 // What styles leave free around the picture of a button over its text.
 constexpr int pictureRim = 4;
 // The texts under the pictures are smaller than those of the window.
@@ -32,8 +33,9 @@ struct BoxWidth {
 };
 
 constexpr BoxWidth boxWidths[] = {
-    {"ID_sFilter", filterChars},   {"ID_RenameList", modeChars}, {"ID_SelDistance", distanceChars},
-    {"ID_Seconds", distanceChars}, {"ID_sAddress", 0},
+    {"ID_sFilter", filterChars},    {"ID_RenameList", modeChars}, {"ID_SelDistance", numberChars},
+    {"ID_Seconds", numberChars},    {"ID_Width", numberChars},    {"ID_Height", numberChars},
+    {"ID_BorderWidth", digitChars}, {"ID_sAddress", 0},
 };
 
 int Chars_Of(const Tool& tool)

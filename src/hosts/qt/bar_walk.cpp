@@ -51,7 +51,12 @@ QList<QWidget*> Stops(const BarView& bar)
 } // namespace
 
 BarWalk::BarWalk(QMainWindow& window, const std::vector<BarView*>& bars)
-    : QObject(&window), window_(window), bars_(bars)
+    : BarWalk(window, window.menuWidget(), bars)
+{
+}
+
+BarWalk::BarWalk(QWidget& window, QWidget* menus, const std::vector<BarView*>& bars)
+    : QObject(&window), window_(window), menus_(menus), bars_(bars)
 {
 }
 
@@ -90,8 +95,8 @@ void BarWalk::NextRegion(bool backwards)
 {
     QWidget* focus = window_.focusWidget();
     std::vector<QWidget*> regions{nullptr}; // null is the content
-    if (window_.menuWidget())
-        regions.push_back(window_.menuWidget());
+    if (menus_)
+        regions.push_back(menus_);
     for (BarView* bar : bars_)
         if (bar->isVisible() && !Stops(*bar).empty())
             regions.push_back(bar);

@@ -21,6 +21,7 @@ class BarWalk : public QObject {
 
 public:
     BarWalk(QMainWindow& window, const std::vector<BarView*>& bars);
+    BarWalk(QWidget& window, QWidget* menus, const std::vector<BarView*>& bars);
 
     // True when the key was for the walk.
     bool Key(QWidget& receiver, QKeyEvent& event);
@@ -34,7 +35,8 @@ private:
     void Step(BarView& bar, QWidget& from, bool backwards);
     void GoBack();
 
-    QMainWindow& window_;
+    QWidget& window_;
+    QWidget* menus_;
     const std::vector<BarView*>& bars_;
     QPointer<QWidget> before_; // had the focus when the walk began
 };

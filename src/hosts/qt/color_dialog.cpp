@@ -2,6 +2,7 @@
 
 #include "controls/frm_color.h"
 #include "hosts/qt/binder.h"
+#include "hosts/qt/color_box.h"
 #include "hosts/qt/colours.h"
 #include "hosts/qt/form_window.h"
 #include "hosts/qt/person_input.h"
@@ -11,8 +12,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMouseEvent>
-#include <QPainter>
 #include <QPushButton>
 #include <QSlider>
 
@@ -24,42 +23,6 @@ namespace {
 
 constexpr int boxesInARow = 8, boxPixels = 22, boxGap = 3, swatchWidth = 56;
 constexpr int margin = 12, gap = 10, sliderWidth = 190, fieldChars = 5;
-
-// A piece of colour; a click on it is the control's.
-class ColorBox : public QWidget {
-public:
-    ColorBox(PictureBox& control, Binder& binder, QSize size, QWidget* parent)
-        : QWidget(parent), control_(control)
-    {
-        setFixedSize(size);
-        setAttribute(Qt::WA_Hover);
-        binder.Bind(*this, control, [this](const PropSet& changed) {
-            if (changed.Has({Prop::Colours}))
-                update();
-        });
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        const QColor colour = Color_Of(control_.BackColor, palette());
-        QColor rim = palette().color(QPalette::WindowText);
-        rim.setAlphaF(underMouse() ? 1 : 0.4F);
-        QPainter painter(this);
-        painter.fillRect(rect(), colour);
-        painter.setPen(rim);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
-
-    void mouseReleaseEvent(QMouseEvent* event) override
-    {
-        if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
-            control_.PersonClick();
-    }
-
-private:
-    PictureBox& control_;
-};
 
 QPushButton* Button_For(CommandButton& command, Binder& binder, QWidget* parent)
 {

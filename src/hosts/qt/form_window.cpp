@@ -4,6 +4,7 @@
 #include "hosts/qt/qt_text.h"
 
 #include <QCloseEvent>
+#include <QDialog>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -123,6 +124,14 @@ void FormWindow::TellState()
     shown_ = Place_Of(form_);
 }
 
+// What comes over a dialog is the desktop's to tell: a message box is no other
+// form, and behind it the person goes on where it came up.
+void FormWindow::TellActive(bool active)
+{
+    if (form_.Loaded() && !qobject_cast<QDialog*>(&window_))
+        form_.PersonActivate(active);
+}
+
 // A form may keep itself, or be busy and go later.
 bool FormWindow::StaysOpen()
 {
@@ -137,11 +146,8 @@ bool FormWindow::eventFilter(QObject*, QEvent* event)
     case QEvent::Move:
     case QEvent::Resize: TellPlace(); return false;
     case QEvent::WindowStateChange: TellState(); return false;
-    case QEvent::WindowActivate:
-    case QEvent::WindowDeactivate:
-        if (form_.Loaded())
-            form_.PersonActivate(event->type() == QEvent::WindowActivate);
-        return false;
+    case QEvent::WindowActivate: TellActive(true); return false;
+    case QEvent::WindowDeactivate: TellActive(false); return false;
     case QEvent::Close:
         if (!StaysOpen())
             return false;

@@ -32,6 +32,7 @@ private:
     void ShowPlace();
     void TellPlace();
     void TellState();
+    void TellActive(bool active);
     bool StaysOpen();
 
     Form& form_;

@@ -32,6 +32,16 @@ constexpr ClassIcon classIcons[] = {
     {"M", "audio-x-generic"},
 };
 
+struct ListIcon {
+    std::string_view ShortName, Number, Name;
+};
+
+constexpr ListIcon listIcons[] = {
+    {"Tmp", "1", "insert-text"}, {"Fav", "2", "bookmark-new"},
+    {"Fil", "3", "view-filter"}, {"Sch", "4", "preferences-desktop-wallpaper"},
+    {"Win", "5", "window-new"},
+};
+
 QPalette::ColorGroup Group_Of(QIcon::Mode mode)
 {
     return mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
@@ -134,6 +144,14 @@ QIcon Icon_OfClass(std::string_view letter)
         if (row.Letter == letter)
             return Icon_Named(row.Name);
     return {};
+}
+
+QIcon Icon_OfRow(std::string_view key)
+{
+    for (const ListIcon& row : listIcons)
+        if (row.ShortName == key || row.Number == key)
+            return Icon_Named(row.Name);
+    return Icon_OfClass(key);
 }
 
 // The colour of selections, led towards that of texts until it can be read.

@@ -9,17 +9,9 @@
 
 namespace tavo {
 
-namespace {
-
-constexpr std::string_view classLetters = "FDPM";
-
-} // namespace
-
 ListModel::ListModel(ListView& list, FrameQueue& queue, QObject* parent)
     : QAbstractTableModel(parent), list_(list)
 {
-    for (std::size_t i = 0; i < classLetters.size(); ++i)
-        icons_[i] = Icon_OfClass(classLetters.substr(i, 1));
     binding_ =
         new Binding(queue, *this, none_, [this](const PropSet& changed) { Follow(changed); });
     list_.SetObserver(this);
@@ -47,9 +39,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole: return ToQtLine(list_.Cell(position, column));
     case Qt::DecorationRole: {
-        const std::string_view icon = list_.SmallIcon(position);
-        const auto at = icon.empty() ? classLetters.npos : classLetters.find(icon[0]);
-        return column == 0 && at != classLetters.npos ? QVariant(icons_[at]) : QVariant();
+        const QIcon& icon = Icon(list_.SmallIcon(position));
+        return column == 0 && !icon.isNull() ? QVariant(icon) : QVariant();
     }
     case Qt::TextAlignmentRole:
         return static_cast<int>(
@@ -57,6 +48,14 @@ QVariant ListModel::data(const QModelIndex& index, int role) const
             | (list_.Column(column).RightAligned ? Qt::AlignRight : Qt::AlignLeft));
     default: return {};
     }
+}
+
+const QIcon& ListModel::Icon(std::string_view key) const
+{
+    const auto made = icons_.find(key);
+    if (made != icons_.end())
+        return made->second;
+    return icons_.emplace(key, Icon_OfRow(key)).first->second;
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const

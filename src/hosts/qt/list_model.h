@@ -7,7 +7,8 @@
 
 #include <QIcon>
 
-#include <array>
+#include <map>
+#include <string>
 
 namespace tavo {
 
@@ -52,13 +53,14 @@ private:
     void Changed_Mark(Prop what) { binding_->Mark(what); }
     void Follow(const PropSet& changed);
     void FollowCount();
+    const QIcon& Icon(std::string_view key) const;
 
     ListView& list_;
     Event<Prop> none_; // the observer tells what changes
     Binding* binding_;
     int shownRows_ = 0;
     int showPosition_ = 0;
-    std::array<QIcon, 4> icons_;
+    mutable std::map<std::string, QIcon, std::less<>> icons_; // by the key, as they come up
 };
 
 } // namespace tavo

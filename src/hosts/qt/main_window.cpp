@@ -51,6 +51,8 @@ MainWindow::MainWindow(FrmMain& form)
         return walk_->Key(receiver, event);
     };
     TellHeights();
+    // Before it is shown nothing has shared out the room under the bars.
+    layout()->activate();
     TellInside();
 }
 
@@ -110,7 +112,7 @@ void MainWindow::BuildScreens()
 void MainWindow::BuildPanels()
 {
     for (const auto& panel : form_.ctlRbRenMode) {
-        auto* face = new QWidget(centralWidget());
+        auto* face = new RaisedPane(centralWidget());
         auto* column = new QVBoxLayout(face);
         column->setContentsMargins(0, 0, 0, 0);
         QWidget* inside = ModePanel_Make(panel->Index(), form_, *binder_, face);

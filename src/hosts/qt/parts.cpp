@@ -1,7 +1,9 @@
 #include "hosts/qt/parts.h"
 
+#include "controls/raised_border.h"
 #include "hosts/pictures/image_bitmap.h"
 #include "hosts/qt/binder.h"
+#include "hosts/qt/colours.h"
 #include "hosts/qt/icons.h"
 #include "hosts/qt/key_of_event.h"
 #include "hosts/qt/qt_text.h"
@@ -120,6 +122,15 @@ void StatusPanels::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
         bar_.PersonClick();
+}
+
+void RaisedPane::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    for (const EdgeLine& line : RaisedBorder_Lines(width(), height())) {
+        painter.setPen(Color_Of(line.Color, palette()));
+        painter.drawLine(line.FromX, line.FromY, line.ToX, line.ToY);
+    }
 }
 
 LinkButton::LinkButton(int padding, QWidget* parent) : QAbstractButton(parent), padding_(padding)

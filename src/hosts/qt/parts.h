@@ -68,6 +68,17 @@ private:
     Connection panelChanged_;
 };
 
+// A panel that stands out by its edge.
+class RaisedPane : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 // A text that does something when it is clicked: in the colour of accents, with
 // a line under it while the pointer is there.
 class LinkButton : public QAbstractButton {

@@ -22,6 +22,8 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <utility>
+
 namespace tavo {
 
 namespace {
@@ -225,10 +227,14 @@ void QtDesktop::ShowModal(Form& form)
 }
 
 // Until the form is gone, which may be while it is coming up. Not every desktop
-// activates a dialog, but its form must hear that it is up. A dialog that was
-// put away past its form takes the form along, if that lets itself.
+// activates a dialog, but its form must hear that it is up, and the one below
+// that it is in front again. A dialog that was put away past its form takes the
+// form along, if that lets itself.
 void QtDesktop::RunDialog(Form& form, QDialog& dialog)
 {
+    Form* const below = std::exchange(modal_, &form);
+    if (below)
+        below->PersonActivate(false);
     QEventLoop loop;
     const Connection gone = form.Unloaded.Listen([&loop] { loop.quit(); });
     QObject::connect(&dialog, &QDialog::finished, &loop, [&form, &dialog] {
@@ -246,6 +252,9 @@ void QtDesktop::RunDialog(Form& form, QDialog& dialog)
     dialog.show();
     if (form.Loaded())
         loop.exec(QEventLoop::DialogExec);
+    modal_ = below;
+    if (below && below->Loaded())
+        below->PersonActivate(true);
 }
 
 void QtDesktop::SetForegroundWindow(Form& form)
@@ -311,11 +320,13 @@ std::optional<std::string> QtDesktop::GetSaveFileNameA(const SaveQuestion& quest
     if (BeforeShowing)
         BeforeShowing();
     const std::string kind = question.Filter.substr(0, question.Filter.find('\0'));
-    const QString path =
-        QFileDialog::getSaveFileName(FrontWindow(), ToQt(question.Title), QString(), ToQt(kind));
-    if (path.isEmpty())
+    QFileDialog dialog(FrontWindow(), ToQt(question.Title), QString(), ToQt(kind));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    const std::string& extension = question.DefaultExtension;
+    dialog.setDefaultSuffix(ToQt(extension.substr(extension.rfind('.') + 1)));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return FromQt(path);
+    return FromQt(dialog.selectedFiles().first());
 }
 
 bool QtDesktop::ShellExecuteA(const std::string&, const std::string& address, std::string& why)

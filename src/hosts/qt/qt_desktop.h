@@ -73,6 +73,7 @@ private:
     std::map<std::string, WindowMaker> windowMakers_;
     std::map<std::string, DialogMaker> dialogs_;
     QElapsedTimer sinceTurn_;
+    Form* modal_ = nullptr; // whose dialog is in front
     int inside_ = 0;
     bool busyPointer_ = false;
 };

@@ -1,20 +1,27 @@
 #include "hosts/qt/qt_host.h"
 
+#include "controls/frm_about.h"
 #include "controls/frm_color.h"
 #include "core/frm_main.h"
 #include "fileactions/frm_delete.h"
+#include "hosts/qt/about_dialog.h"
 #include "hosts/qt/color_dialog.h"
 #include "hosts/qt/delete_dialog.h"
+#include "hosts/qt/editor_dialog.h"
+#include "hosts/qt/export_dialog.h"
 #include "hosts/qt/folder_dialog.h"
 #include "hosts/qt/qt_text.h"
 #include "hosts/qt/resize_dialog.h"
+#include "hosts/qt/settings_dialog.h"
+#include "selection/frm_export_dir.h"
 #include "selection/paths.h"
+#include "settings/frm_settings.h"
+#include "thumbnails/frm_thumb_editor.h"
 #include "thumbnails/frm_thumb_resize.h"
 #include "viewer/frm_viewer.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
-#include <QTimer>
 
 #include <cmath>
 
@@ -71,11 +78,14 @@ void QtHost::AddWindows()
         viewer_ = std::make_unique<ViewerWindow>(dynamic_cast<FrmViewer&>(form));
         return viewer_.get();
     });
+    desktop_.AddDialog("frmAbout", Maker_Of<AboutDialog, FrmAbout>());
     desktop_.AddDialog("frmColor", Maker_Of<ColorDialog, FrmColor>());
     desktop_.AddDialog("frmDelete", Maker_Of<DeleteDialog, FrmDelete>());
+    desktop_.AddDialog("frmExportDir", Maker_Of<ExportDialog, FrmExportDir>());
+    desktop_.AddDialog("frmSettings", Maker_Of<SettingsDialog, FrmSettings>());
+    desktop_.AddDialog("frmThumbEditor", Maker_Of<EditorDialog, FrmThumbEditor>());
     desktop_.AddDialog("frmThumbResize", Maker_Of<ResizeDialog, FrmThumbResize>());
-    // Behind the first look at the main window, which does not wait for it.
-    QTimer::singleShot(0, &window_, [this] { ColorDialog::TellExtent(program_.Color()); });
+    ColorDialog::TellExtent(program_.Color());
 }
 
 // Begins where the panel points to, else where the files were picked.

@@ -108,8 +108,11 @@ void Binder::Edited(QLineEdit& line, TextBox& box, const QString& before)
 
 void Binder::Bind(QLineEdit& line, TextBox& box)
 {
-    Binding* binding =
-        Bind(line, box, [&](const PropSet& changed) { ShowText(line, box, changed); });
+    Binding* binding = Bind(line, box, [&](const PropSet& changed) {
+        if (changed.Has({Prop::Style}))
+            line.setReadOnly(box.Locked);
+        ShowText(line, box, changed);
+    });
     connect(&line, &QLineEdit::textEdited, this, [this, &line, &box, binding] {
         binding->Mark(Prop::Text); // the box may refuse what the widget took
         Edited(line, box, ToQt(box.Text));

@@ -82,7 +82,6 @@ void ViewerWindow::BuildView()
     };
     // The keys walk the list as long as nothing else has the focus.
     binder_->AddHome(*rows);
-    view->setFocusPolicy(Qt::ClickFocus);
     binder_->AddHome(*view);
     rows->setFocus();
 }
