@@ -48,7 +48,9 @@ make_example() {
 
 # -- The window
 
-# start LINE...: the program on the folder, with these lines in [Settings].
+# start LINE...: the program on the folder, with these lines in [Settings]; the
+# heading of another section may stand among them. Nothing is asked before a run,
+# unless `quiet` is 0.
 start() {
     local config=$home/.config/tavo
     rm -rf "$folder" "$config"
@@ -56,7 +58,7 @@ start() {
     mkdir -p "$config"
     {
         echo "[Settings]"
-        printf '%s\n' SupWarnRen=1 SupWarnUndo=1 "$@"
+        printf '%s\n' "SupWarnRen=${quiet:-1}" "SupWarnUndo=${quiet:-1}" "$@"
         printf '%s\n' "[Defaults]" nnDigits=3
         printf '%s\n' "[Position]" Main=150,150,13500,8700,0 Viewer=0,0,0,0,0
     } >"$config/Tavo.ini"
@@ -185,7 +187,7 @@ go_to_rename_list() {
 selection() {
     start
     press_tool 2 -1 # Preview On
-    drag 120 342 120 240
+    drag 120 368 120 240
     click_at 500 200
     press shift+Down shift+Down shift+Down
     shoot selection
@@ -227,9 +229,8 @@ delete_dialog() {
     stop
 }
 
-thumbnails_and_viewer() {
+go_to_thumbnails() {
     local main
-    start
     go_to_rename_list
     main=$window
     click_at 307 45 # Views
@@ -237,10 +238,44 @@ thumbnails_and_viewer() {
     xdotool key Return
     window_to_front '^Tavo - '
     window=$main
+}
+
+thumbnails_and_viewer() {
+    start
+    go_to_thumbnails
     shoot thumbnails
     click_at 350 262 3
     window_to_front 'Viewer'
     colours=256 shoot viewer
+    stop
+}
+
+# The options stand as at a first start, and the lists hold something.
+settings_dialog() {
+    quiet=0 start '[Templates]' 'Numbered=holiday_<#>:<OE>' 'Number in front=<#> <ON>:<OE>' \
+        'Song=<TR> <AR> - <T>:mp3' '[CaseWordList]' 1=McDonald 2=MP3 3=DVD
+    press alt+e s
+    window_to_front '^Settings'
+    shoot settings
+    press ctrl+Tab
+    shoot templates
+    stop
+}
+
+export_dialog() {
+    start
+    press alt+f e
+    window_to_front '^Export'
+    shoot export
+    stop
+}
+
+editor_dialog() {
+    start
+    go_to_thumbnails
+    press alt+t e
+    window_to_front '^Thumbnail Editor'
+    colours=256 shoot editor
     stop
 }
 
@@ -251,6 +286,9 @@ make_pictures() {
     failed_rows
     delete_dialog
     thumbnails_and_viewer
+    settings_dialog
+    export_dialog
+    editor_dialog
 }
 
 if [[ ${1-} == --inside ]]; then

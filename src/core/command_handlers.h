@@ -1,9 +1,19 @@
 #pragma once
 
+#include <string_view>
+
 namespace tavo {
 
+class Control;
 class Program;
 class Tool;
+
+// Takes back the last edit of a text box; any other control, or none, is passed
+// over.
+void Edit_Undo(Control* control);
+// "Cut", "Copy" or "Paste" in the active control of the main window, where that
+// is a box with a text.
+void Edit_Clip(Program& p, std::string_view op);
 
 // What the tools of the command table do. Each takes the tool that was
 // clicked: a toggle stands as it does after the click.

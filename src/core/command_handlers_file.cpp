@@ -16,9 +16,9 @@ namespace {
 
 // The box that clipboard commands work on; null for anything else. A list to
 // choose from has no text to cut.
-TextBox* Edit_Target(Program& p)
+TextBox* Edit_Target(Control* control)
 {
-    auto* box = dynamic_cast<TextBox*>(p.main.ActiveControl());
+    auto* box = dynamic_cast<TextBox*>(control);
     if (box && !(box->IsShown() && box->IsUsable()))
         return nullptr;
     const auto* combo = dynamic_cast<ComboBox*>(box);
@@ -45,6 +45,25 @@ bool Flag_Flip(std::uint8_t& flag, Tool& tool)
 }
 
 } // namespace
+
+void Edit_Undo(Control* control)
+{
+    TextBox* box = Edit_Target(control);
+    if (box && !dynamic_cast<ComboBox*>(box))
+        box->UndoEdit();
+}
+
+void Edit_Clip(Program& p, std::string_view op)
+{
+    TextBox* const box = Edit_Target(p.main.ActiveControl());
+    if (box == nullptr)
+        return;
+    if (op == "Paste")
+        return box->SetSelText(p.desktop.ClipboardText());
+    p.desktop.SetClipboardText(box->SelText());
+    if (op == "Cut")
+        box->SetSelText("");
+}
 
 void Cmd_NewList(Program& p, Tool&)
 {
@@ -84,29 +103,22 @@ void Cmd_Exit(Program& p, Tool&)
 
 void Cmd_EditUndo(Program& p, Tool&)
 {
-    TextBox* box = Edit_Target(p);
-    if (box && !dynamic_cast<ComboBox*>(box))
-        box->UndoEdit();
+    Edit_Undo(p.main.ActiveControl());
 }
 
 void Cmd_Cut(Program& p, Tool&)
 {
-    if (TextBox* box = Edit_Target(p)) {
-        p.desktop.SetClipboardText(box->SelText());
-        box->SetSelText("");
-    }
+    Edit_Clip(p, "Cut");
 }
 
 void Cmd_Copy(Program& p, Tool&)
 {
-    if (const TextBox* box = Edit_Target(p))
-        p.desktop.SetClipboardText(box->SelText());
+    Edit_Clip(p, "Copy");
 }
 
 void Cmd_Paste(Program& p, Tool&)
 {
-    if (TextBox* box = Edit_Target(p))
-        box->SetSelText(p.desktop.ClipboardText());
+    Edit_Clip(p, "Paste");
 }
 
 void Cmd_DefaultSize(Program& p, Tool&)

@@ -184,6 +184,11 @@ void Form_Load(Program& p)
     FirstScreen_Show(p);
 }
 
+void Form_Activate(Program& p)
+{
+    p.main.Refresh();
+}
+
 void Form_Unload(Program& p)
 {
     const std::string file = Ini_OwnFile(p);
@@ -210,7 +215,7 @@ void Main_Wire(Program& p)
     main.QueryUnload = [&p](bool& keep) { Form_QueryUnload(p, keep); };
     main.Unloaded = [&p] { Form_Unload(p); };
     main.Resize = [&p] { Form_Resize(p); };
-    main.Activate = [&p] { p.main.Refresh(); };
+    main.Activate = [&p] { Form_Activate(p); };
     main.KeyDown = [&p](Key& key) { Form_KeyDown(p, key); };
     main.tmrDateTimeClock.Tick = [&p] { Clock_Show(p); };
 }

@@ -14,6 +14,8 @@ class Program;
 void Form_Load(Program& p);
 // What the end saves and closes. No question is asked.
 void Form_Unload(Program& p);
+// It came to the front and is painted anew.
+void Form_Activate(Program& p);
 
 // The folder that the command text means: of several paths the last one, of a
 // file its folder. It may not exist. Empty when the text names nothing.
