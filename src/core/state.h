@@ -194,8 +194,10 @@ decltype(auto) Variable_Use(State& state, const Variable& variable, Use&& use)
                 return use(state.ccTemp[where.Index]);
             else if constexpr (std::is_same_v<Where, LookColor>)
                 return use(state.ThumbLook.Color[where.Index]);
-            else if constexpr (std::is_same_v<Where, std::int16_t ThumbLook::*>
-                               || std::is_same_v<Where, bool ThumbLook::*>)
+            else if constexpr (std::is_same_v<
+                                   Where,
+                                   std::int16_t
+                                       ThumbLook::*> || std::is_same_v<Where, bool ThumbLook::*>)
                 return use(state.ThumbLook.*where);
             else
                 return use(state.*where);
