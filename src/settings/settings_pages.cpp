@@ -41,7 +41,7 @@ void Row_Add(Program& p, int page)
     ListView& list = form.lsvSettings[page];
     form.ListDirty[static_cast<std::size_t>(page)] = true;
     form.ItemDirty = false;
-    const std::string name = form.txtName[page].Text;
+    const std::string name = Settings_Line(form.txtName[page].Text);
     if (name.empty()) {
         p.Say("Blank Names are not Allowed!\r\nFill in a Name and Try Again...",
               BoxIcon::Exclamation);

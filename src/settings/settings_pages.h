@@ -57,6 +57,9 @@ void Settings_Row_Update(Program& p, int page, int row);
 void Settings_Item_Ask(Program& p);
 
 // The text that the value boxes of a page stand for, and back into them.
+// A text as one line of the file: a pasted end of a line would begin another
+// one there, and with it another key or section.
+std::string Settings_Line(std::string text);
 std::string Settings_Value_Get(const FrmSettings& form, int page);
 void Settings_Value_Show(FrmSettings& form, int page, const std::string& value);
 

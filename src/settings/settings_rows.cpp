@@ -122,7 +122,7 @@ void Settings_Row_Update(Program& p, int page, int row)
 {
     FrmSettings& form = p.Settings();
     ListView& list = form.lsvSettings[page];
-    const std::string name = form.txtName[page].Text;
+    const std::string name = Settings_Line(form.txtName[page].Text);
     if (name.empty()) {
         p.Say("Blank Names are not Allowed!\r\nItem was not Updated...", BoxIcon::Exclamation);
         return;
@@ -152,11 +152,18 @@ void Settings_Item_Ask(Program& p)
     form.ItemDirty = false;
 }
 
+std::string Settings_Line(std::string text)
+{
+    std::erase_if(text, [](char c) { return c == '\r' || c == '\n'; });
+    return text;
+}
+
 std::string Settings_Value_Get(const FrmSettings& form, int page)
 {
     if (page == pageTemplates)
-        return form.txtData[templateName].Text.Get() + ":" + form.txtData[templateExt].Text.Get();
-    return form.txtData[page].Text;
+        return Settings_Line(form.txtData[templateName].Text.Get() + ":"
+                             + form.txtData[templateExt].Text.Get());
+    return Settings_Line(form.txtData[page].Text);
 }
 
 } // namespace tavo

@@ -60,7 +60,8 @@ void Show_RenMode(Program& p, const std::string&)
 
 void Show_ThumbCaption(Program& p, const std::string&)
 {
-    Tool_Caption(p, "ID_ThumbCaption", p.state.ThumbLook.CaptionShown ? "&Hide Caption" : "&Show Caption");
+    Tool_Caption(p, "ID_ThumbCaption",
+                 p.state.ThumbLook.CaptionShown ? "&Hide Caption" : "&Show Caption");
 }
 
 void Show_Address(Program& p, const std::string&)

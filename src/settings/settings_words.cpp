@@ -3,6 +3,7 @@
 #include "core/program.h"
 #include "renamelist/preview.h"
 #include "settings/frm_settings.h"
+#include "settings/settings_pages.h"
 #include "toolkit/text.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@ constexpr std::size_t wordList = 0; // in ListDirty
 void Word_Add(Program& p)
 {
     FrmSettings& form = p.Settings();
-    const std::string word = Trim(form.txtCaseWord.Text);
+    const std::string word = Trim(Settings_Line(form.txtCaseWord.Text));
     const auto& words = form.lstCaseWord.Items();
     if (word.empty()) {
         p.Say("There is no Word to Add!", BoxIcon::Exclamation);

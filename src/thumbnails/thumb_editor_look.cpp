@@ -33,15 +33,14 @@ Tool& Tool_Of(const FrmThumbEditor& f, std::string_view id)
     return *f.atbThumbs.Find(id);
 }
 
-// What is none of the alignments presses the centre, and leaves the caption.
+// What is none of the alignments shows as the centre.
 void Align_Show(FrmThumbEditor& f)
 {
     const int alignment = f.Work.Align;
     const int pressed = Align_IsKnown(alignment) ? alignment : alignCenter;
     for (int k = 0; k <= alignCenter; ++k)
         Tool_Of(f, editorAlignTools[k]).Checked = k == pressed;
-    if (Align_IsKnown(alignment))
-        f.lblPreview.Alignment = alignment;
+    f.lblPreview.Alignment = pressed;
 }
 
 // A border that the list has no row for stands there as no choice.

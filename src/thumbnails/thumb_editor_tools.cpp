@@ -197,7 +197,9 @@ void Editor_Tool_KeyPress(FrmThumbEditor& f, Tool& tool, int& key)
         key = 0;
         return;
     }
+    // The point, which the filter of numbers lets pass, is dropped as well.
     Txt_NumericKey(key);
+    key = key == '.' ? 0 : key;
 }
 
 void Editor_Tool_LostFocus(FrmThumbEditor& f, Tool& tool)

@@ -217,8 +217,7 @@ void Form::Remove(Control* control)
     for (Control* other : controls_)
         if (other->Container == control)
             other->Container = nullptr;
-    for (Control** held :
-         {&active_, &DefaultButton, &CancelButton, &dragSource_, &dragTarget_})
+    for (Control** held : {&active_, &DefaultButton, &CancelButton, &dragSource_, &dragTarget_})
         if (*held == control)
             *held = nullptr;
 }

@@ -27,13 +27,13 @@ TEST(State, Variables_start_as_the_program_begins)
         const char* Text;
     };
     static constexpr Row rows[] = {
-        {"Filter", "*.*"},         {"CurScreen", "-1"},      {"PrevMode", "7"},
-        {"RenCount", "0"},         {"ResizeOn", "True"},     {"MainAlive", "True"},
-        {"SelFolderMode", "0"},    {"ActCancel", "False"},   {"ActReady", "True"},
-        {"ActPaused", "False"},    {"ClockFlag", "False"},   {"DragX", "2147483647"},
-        {"DragY", "2147483647"},   {"SplitX", "2147483647"}, {"SplitY", "2147483647"},
-        {"MinWidth", "6732"},      {"ClientW", "0"},         {"ClientH", "0"},
-        {"ThumbCaption", "True"},  {"StartPath", ""}};
+        {"Filter", "*.*"},        {"CurScreen", "-1"},      {"PrevMode", "7"},
+        {"RenCount", "0"},        {"ResizeOn", "True"},     {"MainAlive", "True"},
+        {"SelFolderMode", "0"},   {"ActCancel", "False"},   {"ActReady", "True"},
+        {"ActPaused", "False"},   {"ClockFlag", "False"},   {"DragX", "2147483647"},
+        {"DragY", "2147483647"},  {"SplitX", "2147483647"}, {"SplitY", "2147483647"},
+        {"MinWidth", "6732"},     {"ClientW", "0"},         {"ClientH", "0"},
+        {"ThumbCaption", "True"}, {"StartPath", ""}};
     const SharedState state;
     for (const Row& row : rows)
         EXPECT_EQ(Text_Of(state, row.Name), row.Text) << row.Name;

@@ -57,6 +57,16 @@ TEST_F(SettingsPages, A_template_is_split_at_its_first_colon)
     }
 }
 
+TEST_F(SettingsPages, A_pasted_end_of_a_line_brings_in_no_other_one)
+{
+    Tab(pageFavorites);
+    Type(pageFavorites, "a\r\n[Settings]\r\nSaveDef", "/tmp/\n[Filters]\nEvil=*");
+    form.cmdAdd[pageFavorites].PersonClick();
+    const ListView& list = form.lsvSettings[pageFavorites];
+    EXPECT_EQ(list.Text(list.Count()), "a[Settings]SaveDef");
+    EXPECT_EQ(list.Cell(list.Count(), 1).find_first_of("\r\n"), std::string_view::npos);
+}
+
 TEST_F(SettingsPages, Buttons_go_by_the_rows_and_the_selected_one)
 {
     struct Row {

@@ -19,7 +19,7 @@ TEST_F(EditorLook, Return_in_a_box_of_a_size_holds_it)
     static constexpr Row rows[] = {
         {"500", "128", 128}, {"129", "128", 128},  {"128", "128", 128},      {"60", "60", 60},
         {"59", "60", 60},    {"1", "60", 60},      {"", "80", 80},           {"090", "090", 90},
-        {"a7b0x", "70", 70}, {"70.5", "70.5", 70}, {"99999999", "128", 128},
+        {"a7b0x", "70", 70}, {"70.5", "128", 128}, {"99999999", "128", 128},
     };
     for (const auto* id : {"ID_Width", "ID_Height"})
         for (const Row& row : rows) {
@@ -72,7 +72,7 @@ TEST_F(EditorLook, The_keys_that_edit_pass_and_escape_cancels)
     };
     for (const Row& row :
          {Row{'0', '0'}, Row{'9', '9'}, Row{8, 8}, Row{3, 3}, Row{22, 22}, Row{24, 24}, Row{26, 26},
-          Row{'.', '.'}, Row{'-', 0}, Row{'a', 0}, Row{' ', 0}, Row{keyEscape, keyEscape}}) {
+          Row{'.', 0}, Row{'-', 0}, Row{'a', 0}, Row{' ', 0}, Row{keyEscape, keyEscape}}) {
         int key = row.Key;
         box.KeyPress(key);
         EXPECT_EQ(key, row.After) << row.Key;
