@@ -36,7 +36,7 @@ TEST_F(SettingsPages, A_tab_shows_its_selected_row_and_takes_the_name_box)
     EXPECT_TRUE(form.txtName[pageWindows].HasFocus());
     Tab(pageFavorites);
     EXPECT_EQ(form.CurRow, 2);
-    EXPECT_EQ(Boxes(pageFavorites), "Work|/work/");
+    EXPECT_EQ(Boxes(pageFavorites), "Work|/jobs/");
     Tab(pageDefaults);
     EXPECT_EQ(form.CurPage, -1);
     EXPECT_EQ(form.CurRow, -1);
@@ -118,7 +118,7 @@ TEST_F(SettingsPages, Add_puts_a_row_at_the_end_and_selects_it)
     Tab(pageFavorites);
     Type(pageFavorites, "New", "/new/");
     form.cmdAdd[pageFavorites].PersonClick();
-    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/work/", "New|/new/"}));
+    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/jobs/", "New|/new/"}));
     const ListView& list = form.lsvSettings[pageFavorites];
     EXPECT_EQ(list.SelectedItem(), 3);
     EXPECT_EQ(list.SelectedRows(), (std::vector<int>{3}));
@@ -154,7 +154,7 @@ TEST_F(SettingsPages, A_refused_add_has_set_the_page_dirty_and_the_item_clean)
         EXPECT_TRUE(form.ItemDirty) << row.Name;
         form.cmdAdd[pageFavorites].PersonClick();
         EXPECT_EQ(Said(), Texts{row.Said}) << row.Name;
-        EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/work/"})) << row.Name;
+        EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/jobs/"})) << row.Name;
         EXPECT_TRUE(Dirty(pageFavorites)) << row.Name;
         EXPECT_FALSE(form.ItemDirty) << row.Name;
     }
@@ -341,7 +341,7 @@ TEST_F(SettingsPages, At_the_ends_nothing_moves)
     EXPECT_FALSE(Dirty(pageFavorites));
     Pick(pageFavorites, 2);
     Settings_Row_Move(p, pageFavorites, 1);
-    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/work/"}));
+    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/jobs/"}));
     EXPECT_FALSE(Dirty(pageFavorites));
     Settings_Row_Move(p, pageWindows, 1);
     EXPECT_FALSE(Dirty(pageWindows));
@@ -354,7 +354,7 @@ TEST_F(SettingsPages, A_moved_row_takes_its_unsaved_boxes_along)
     rig.Desktop.Answer(BoxAnswer::Yes);
     form.cmdDown[pageFavorites].PersonClick();
     EXPECT_EQ(Said(), Texts{question});
-    EXPECT_EQ(Rows(pageFavorites), (Texts{"Work|/work/", "Heim|/home/"}));
+    EXPECT_EQ(Rows(pageFavorites), (Texts{"Work|/jobs/", "Heim|/home/"}));
 }
 
 TEST_F(SettingsPages, A_move_takes_the_sort_marks_away)
@@ -434,10 +434,10 @@ TEST_F(SettingsPages, A_yes_that_is_refused_says_why)
     rig.Desktop.Answer(BoxAnswer::Yes);
     Pick(pageFavorites, 2);
     EXPECT_EQ(Said(), (Texts{question, doubleUpdate}));
-    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/work/"}));
+    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/jobs/"}));
     EXPECT_TRUE(Dirty(pageFavorites));
     EXPECT_FALSE(form.ItemDirty);
-    EXPECT_EQ(Boxes(pageFavorites), "Work|/work/");
+    EXPECT_EQ(Boxes(pageFavorites), "Work|/jobs/");
 }
 
 TEST_F(SettingsPages, Where_no_row_is_shown_nothing_is_asked)
@@ -482,7 +482,7 @@ TEST_F(SettingsPages, The_built_in_entry_stays_when_a_list_is_read)
     ASSERT_EQ(p.state.Filters.size(), 3u);
     EXPECT_EQ(p.state.Filters[0].Name, "All Files");
     EXPECT_EQ(p.state.Filters[2].Name, "Work");
-    EXPECT_EQ(p.state.Filters[2].Data, "/work/");
+    EXPECT_EQ(p.state.Filters[2].Data, "/jobs/");
 }
 
 } // namespace

@@ -97,7 +97,7 @@ TEST_F(FrmSettingsTest, The_pages_are_filled_from_the_lists)
 {
     EXPECT_EQ(Rows(pageTemplates),
               (Texts{"One|a:b", "Two|<ON>:<OE>", "Three|plain", "Four|x:y:z"}));
-    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/work/"}));
+    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/jobs/"}));
     EXPECT_EQ(Rows(pageFilters), (Texts{"Pictures|*.jpg;*.png"}));
     EXPECT_EQ(Rows(pageSchemes), (Texts{"Dark|100,90,3,1,2,3,0,4,5,6"}));
     EXPECT_EQ(Rows(pageWindows), Texts{});
@@ -348,7 +348,7 @@ TEST_F(FrmSettingsTest, Each_use_begins_anew)
     EXPECT_EQ(Said(), Texts{}); // Cancel asks nothing
     Load();
     EXPECT_EQ(form.ataSettings.SelectedKey(), "Defaults");
-    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/work/"}));
+    EXPECT_EQ(Rows(pageFavorites), (Texts{"Home|/home/", "Work|/jobs/"}));
     EXPECT_FALSE(form.lsvSettings[pageFavorites].Sorted());
     EXPECT_EQ(form.lsvSettings[pageFavorites].Column(0).Mark, SortMark::None);
     EXPECT_EQ(form.txtName[pageFavorites].Text.Get(), "");

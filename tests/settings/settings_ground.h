@@ -12,7 +12,7 @@
 namespace tavo {
 
 inline constexpr const char* settingsText = "[CaseWordList]\r\n1=MP3\r\n2=USA\r\n"
-                                            "[Favorites]\r\nHome=/home/\r\nWork=/work/\r\n"
+                                            "[Favorites]\r\nHome=/home/\r\nWork=/jobs/\r\n"
                                             "[Filters]\r\nPictures=*.jpg;*.png\r\n"
                                             "[Templates]\r\nOne=a:b\r\nTwo=<ON>:<OE>\r\n"
                                             "Three=plain\r\nFour=x:y:z\r\n"

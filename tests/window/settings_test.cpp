@@ -31,7 +31,7 @@ public:
     {
         SharedState& state = Running().state;
         state.Favorites = {
-            {}, {"Home", "/home/"}, {"照片 📷 صور", "/صور/照片/"}, {"Work", "/work/"}};
+            {}, {"Home", "/home/"}, {"照片 📷 صور", "/صور/照片/"}, {"Work", "/jobs/"}};
         state.Templates = {{}, {"Numbers", "<#>:<OE>"}, {"Plain", "<ON>:<OE>"}};
         state.ThumbSchemes.push_back({"Mine", "90,70,4,255,255,255,0,255,0,65280"});
         state.CaseWordList = {"", "and", "of"};
