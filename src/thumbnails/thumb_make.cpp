@@ -156,6 +156,9 @@ void Busy_Set(Program& p, bool on)
 {
     Tools_RunEnable(p, !on);
     p.main.picThumbnails.Enabled = true;
+    // The offer is also made for an empty list, whose commands stay off.
+    if (!on && p.state.RenCount == 0)
+        Tools_ListEnable(p, false);
 }
 
 std::vector<int> Rows_Wanted(const ListView& list, bool allRows)

@@ -244,6 +244,20 @@ TEST(ThumbOffer, Is_made_while_the_buffer_is_empty)
     EXPECT_EQ(desktop.Boxes.size(), 2u);
 }
 
+TEST(ThumbOffer, An_empty_list_stays_without_its_commands)
+{
+    ProgramRig rig(MemoryDisk::Flavour::Posix);
+    Program& p = rig.Start("", "[Settings]\nShowFile=0\n");
+    ASSERT_EQ(p.state.CurScreen, screenRename);
+    rig.Desktop.Answer(BoxAnswer::Ok);
+    rig.Click("ID_ArrangeThumb");
+    EXPECT_EQ(rig.Desktop.Boxes.size(), 1u);
+    EXPECT_EQ(p.state.CurScreen, screenThumbnails);
+    for (const char* id : {"ID_RenAll", "ID_SelDelete", "ID_Viewer"})
+        EXPECT_FALSE(p.main.atbMain.Find(id)->Enabled) << id;
+    EXPECT_TRUE(p.main.atbMain.Find("ID_NewList")->Enabled);
+}
+
 TEST(ThumbUpdate, Takes_rows_that_have_a_picture_and_no_others)
 {
     ThumbGround g(4);
