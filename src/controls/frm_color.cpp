@@ -41,8 +41,8 @@ FrmColor::FrmColor(Program& p) : Form("frmColor"), p_(p)
 void FrmColor::Design()
 {
     for (int i = 0; i < boxCount; ++i) {
-        picColorSys[i].Move(boxStart + i % boxesInARow * boxPitch,
-                            boxStart + static_cast<double>(i / boxesInARow) * boxPitch, boxPitch,
+        const int row = i / boxesInARow, column = i % boxesInARow;
+        picColorSys[i].Move(boxStart + column * boxPitch, boxStart + row * boxPitch, boxPitch,
                             boxPitch);
         picColorSys[i].BackColor = boxColors[i];
     }

@@ -110,11 +110,12 @@ void FrmSettings::DesignDefaults()
         heading.Caption = std::string(plan.Caption);
         Put(heading, fraDefaults, gap, top, width - 2 * gap, 270);
         top += rowPitch;
-        for (const int* option = plan.Options; *option >= 0; ++option, top += rowPitch) {
+        for (const int* option = plan.Options; *option >= 0; ++option) {
             CheckBox& box = chkSet[*option];
             box.Caption = std::string(options[*option].Caption);
             box.ToolTipText = std::string(options[*option].Tip);
             Put(box, fraDefaults, 2 * gap, top, width - 3 * gap, 270);
+            top += rowPitch;
         }
         top += gap;
     }
