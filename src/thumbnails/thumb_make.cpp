@@ -55,7 +55,7 @@ BitmapPtr Row_Draw(Program& p, int row)
     PictureBox& surface = p.main.picThumb;
     surface.Width = size.Width;
     surface.Height = size.Height;
-    const BitmapPtr drawn = p.desktop.PaintPicture(*original, size.Width, size.Height);
+    BitmapPtr drawn = p.desktop.PaintPicture(*original, size.Width, size.Height);
     surface.Picture = PictureRef::OfBitmap(drawn);
     return drawn;
 }

@@ -64,7 +64,9 @@ BitmapPtr Thumb_Draw(Program& p, PictureBox& surface, const Bitmap& picture)
 void Viewer_Preview_Show(Program& p)
 {
     FrmViewer* const v = Viewer_Find(p);
-    const int row = v ? v->hsbCurImage.Value.Get() : 0;
+    if (v == nullptr)
+        return;
+    const int row = v->hsbCurImage.Value;
     if (!Viewer_HasRow(p, row))
         return;
     v->stbMain.SetPanel(namePanel, std::string(p.main.lsvRename.Text(row)));

@@ -137,7 +137,7 @@ bool Drag_To(Session& session, const Words& words, Named& from, Outcome& outcome
     double x = 0, y = 0;
     Named to;
     if (!Read_Number(words[2], x, outcome) || !Read_Number(words[3], y, outcome)
-        || !session.Find(words[0], from, outcome))
+        || !session.Find(words[0], from, outcome) || from.Target == nullptr)
         return false;
     // What hovers may have been scrolled away under the pointer.
     const bool hovers = from.Window->DragSource() == from.Target;
