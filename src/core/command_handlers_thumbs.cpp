@@ -2,21 +2,13 @@
 
 #include "core/tools.h"
 #include "thumbnails/frm_thumb_editor.h"
+#include "thumbnails/thumb_cells.h"
 #include "thumbnails/thumb_grid.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tavo {
-
-namespace {
-
-struct AlignTool {
-    std::string_view Id;
-    int Alignment;
-};
-
-constexpr AlignTool alignTools[] = {
-    {"ID_AlignLeft", 0}, {"ID_AlignRight", 1}, {"ID_AlignCenter", 2}};
-
-} // namespace
 
 void Cmd_ThumbLayout(Program& p, Tool&)
 {
@@ -56,9 +48,8 @@ void Cmd_ThumbCaption(Program& p, Tool&)
 
 void Cmd_Align(Program& p, Tool& tool)
 {
-    for (const AlignTool& row : alignTools)
-        if (row.Id == tool.Name())
-            Thumb_Align(p, row.Alignment);
+    const auto* const id = std::ranges::find(alignTools, tool.Name());
+    Thumb_Align(p, static_cast<int>(id - std::begin(alignTools)));
 }
 
 // In the mode that its last caller left.

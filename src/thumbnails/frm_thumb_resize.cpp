@@ -3,6 +3,7 @@
 #include "core/frm_main.h"
 #include "core/program.h"
 #include "core/windows.h"
+#include "thumbnails/thumb_cells.h"
 #include "toolkit/numbers.h"
 
 namespace tavo {
@@ -58,11 +59,8 @@ void FrmThumbResize::ResizeSlot(std::size_t slot)
     if (!picture)
         return;
     imgOriginal.Picture = PictureRef::OfBitmap(picture);
-    const PixelSize size = Thumb_Fit(p_.state.ThumbLook, picture->Width(), picture->Height());
-    if (BitmapPtr drawn = p_.desktop.PaintPicture(*picture, size.Width, size.Height)) {
-        picThumb.Picture = PictureRef::OfBitmap(drawn);
+    if (BitmapPtr drawn = Thumb_Draw(p_, picThumb, *picture))
         picture = std::move(drawn);
-    }
 }
 
 } // namespace tavo

@@ -2,6 +2,7 @@
 #include "core/program.h"
 #include "thumbnails/frm_thumb_editor.h"
 #include "thumbnails/frm_thumb_resize.h"
+#include "thumbnails/thumb_cells.h"
 #include "thumbnails/thumb_editor_parts.h"
 #include "toolkit/numbers.h"
 
@@ -21,25 +22,17 @@ constexpr std::int32_t defColor[] = {SystemColor(0x0F), SystemColor(0x0D), Syste
                                      SystemColor(0x12), SystemColor(0x05), SystemColor(0x05)};
 
 constexpr int thinnestBorder = 2, thickestBorder = 9;
-constexpr int alignCenter = 2;
-
-bool Align_IsKnown(int alignment)
-{
-    return alignment >= 0 && alignment <= alignCenter;
-}
 
 Tool& Tool_Of(const FrmThumbEditor& f, std::string_view id)
 {
     return *f.atbThumbs.Find(id);
 }
 
-// What is none of the alignments shows as the centre.
 void Align_Show(FrmThumbEditor& f)
 {
-    const int alignment = f.Work.Align;
-    const int pressed = Align_IsKnown(alignment) ? alignment : alignCenter;
+    const int pressed = Align_Pressed(f.Work.Align);
     for (int k = 0; k <= alignCenter; ++k)
-        Tool_Of(f, editorAlignTools[k]).Checked = k == pressed;
+        Tool_Of(f, alignTools[k]).Checked = k == pressed;
     f.lblPreview.Alignment = pressed;
 }
 

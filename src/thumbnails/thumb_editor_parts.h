@@ -16,9 +16,6 @@ struct Command;
 
 // Sizes of a picture that can be typed, in pixels.
 inline constexpr int smallestSize = 60, largestSize = 128;
-// By the alignment of the caption.
-inline constexpr std::string_view editorAlignTools[] = {"ID_AlignLeft", "ID_AlignRight",
-                                                        "ID_AlignCenter"};
 
 // The tools of atbThumbs, and the bands and menus that they stand on.
 std::span<const Command> Editor_Commands();

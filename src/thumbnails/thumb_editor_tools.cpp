@@ -6,6 +6,7 @@
 #include "settings/frm_settings.h"
 #include "settings/named_lists.h"
 #include "thumbnails/frm_thumb_editor.h"
+#include "thumbnails/thumb_cells.h"
 #include "thumbnails/thumb_editor_parts.h"
 #include "toolkit/numbers.h"
 
@@ -46,8 +47,8 @@ void Settings_Visit(Program& p, const std::optional<SettingsProposal>& proposal)
 
 void Cmd_EditorAlign(Program& p, Tool& tool)
 {
-    const auto id = std::ranges::find(editorAlignTools, tool.Name());
-    Editor_Align(p.ThumbEditor(), static_cast<int>(id - std::begin(editorAlignTools)));
+    const auto id = std::ranges::find(alignTools, tool.Name());
+    Editor_Align(p.ThumbEditor(), static_cast<int>(id - std::begin(alignTools)));
 }
 
 void Cmd_EditorAdd(Program& p, Tool&)

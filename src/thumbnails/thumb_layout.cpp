@@ -151,7 +151,7 @@ void Cell_Show(Program& p, int cell, int row)
     frame.Visible = true;
     image.Visible = true;
     const ThumbLook& look = p.state.ThumbLook;
-    if (look.Align >= 0 && look.Align <= 2)
+    if (Align_IsKnown(look.Align))
         caption.Alignment = look.Align;
     caption.Visible = look.CaptionShown;
 }

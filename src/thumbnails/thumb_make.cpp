@@ -34,11 +34,6 @@ int Buffer_Last(const SharedState& s)
     return static_cast<int>(s.ThumbBuffer.size()) - 1;
 }
 
-Desktop::PictureBound Look_Bound(const ThumbLook& look)
-{
-    return {std::max<int>(look.Width, 1), std::max<int>(look.Height, 1)};
-}
-
 // The file of the row on the surface, at the look's size; null where it cannot
 // be read. The host may keep it small from the beginning.
 BitmapPtr Row_Draw(Program& p, int row)
@@ -51,13 +46,7 @@ BitmapPtr Row_Draw(Program& p, int row)
     p.main.imgOriginal.Picture = PictureRef::OfBitmap(original);
     if (!original)
         return nullptr;
-    const PixelSize size = Thumb_Fit(look, original->Width(), original->Height());
-    PictureBox& surface = p.main.picThumb;
-    surface.Width = size.Width;
-    surface.Height = size.Height;
-    BitmapPtr drawn = p.desktop.PaintPicture(*original, size.Width, size.Height);
-    surface.Picture = PictureRef::OfBitmap(drawn);
-    return drawn;
+    return Thumb_Draw(p, p.main.picThumb, *original);
 }
 
 bool Row_IsBarred(const Program& p, int row)
@@ -210,6 +199,15 @@ void Thumbs_Walk(Program& p, const WalkPlan& plan, bool allRows)
 }
 
 } // namespace
+
+BitmapPtr Thumb_Draw(Program& p, PictureBox& surface, const Bitmap& original)
+{
+    const PixelSize size = Thumb_Fit(p.state.ThumbLook, original.Width(), original.Height());
+    surface.Picture = PictureRef();
+    surface.Width = size.Width;
+    surface.Height = size.Height;
+    return p.desktop.PaintPicture(original, size.Width, size.Height);
+}
 
 void Thumb_Create(Program& p, bool allRows)
 {

@@ -2,6 +2,7 @@
 
 #include "core/tools.h"
 #include "thumbnails/frm_thumb_resize.h"
+#include "thumbnails/thumb_cells.h"
 #include "toolkit/numbers.h"
 #include "toolkit/text.h"
 
@@ -10,19 +11,11 @@ namespace tavo {
 namespace {
 
 constexpr double captionHeightTwips = 255;
-constexpr std::string_view alignTools[] = {"ID_AlignLeft", "ID_AlignRight", "ID_AlignCenter"};
-constexpr int alignCenter = 2;
-
-bool Align_IsKnown(int alignment)
-{
-    return alignment >= 0 && alignment <= alignCenter;
-}
 
 // One of the three is pressed; what is none of their alignments is the centre.
 void Align_Tools(Program& p)
 {
-    const int alignment = p.state.ThumbLook.Align;
-    const int pressed = Align_IsKnown(alignment) ? alignment : alignCenter;
+    const int pressed = Align_Pressed(p.state.ThumbLook.Align);
     for (int k = 0; k <= alignCenter; ++k)
         Tool_Check(p, alignTools[k], k == pressed);
 }

@@ -1,5 +1,6 @@
 #include "core/frm_main.h"
 #include "core/program.h"
+#include "thumbnails/thumb_cells.h"
 #include "toolkit/numbers.h"
 #include "toolkit/text.h"
 #include "viewer/frm_viewer.h"
@@ -44,7 +45,7 @@ bool Picture_Load(Program& p, FrmViewer& v, int row)
     v.imgOriginal.Picture = PictureRef();
     const bool wanted = !Gif_IsLeftOut(p, row);
     const BitmapPtr bitmap = wanted ? p.desktop.LoadPicture(Viewer_File(p, row), {}) : BitmapPtr();
-    v.imgOriginal.Picture = bitmap ? PictureRef::OfBitmap(bitmap) : Viewer_Icon(p, row);
+    v.imgOriginal.Picture = bitmap ? PictureRef::OfBitmap(bitmap) : Row_Icon(p, row);
     return bitmap || !wanted;
 }
 
@@ -128,12 +129,6 @@ std::string Viewer_File(const Program& p, int row)
         return {};
     const ListView& list = p.main.lsvRename;
     return std::string(list.Cell(row, p.state.colPath)) + std::string(list.Text(row));
-}
-
-PictureRef Viewer_Icon(const Program& p, int row)
-{
-    const std::string_view icon = p.main.lsvRename.Icon(row);
-    return icon.empty() ? PictureRef() : PictureRef::OfIcon(icon.front(), largeIconPixels);
 }
 
 void Viewer_Show_Nothing(Program& p)

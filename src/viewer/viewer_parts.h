@@ -18,10 +18,9 @@ class Program;
 std::span<const Command> Viewer_Commands();
 std::span<const BandPlan> Viewer_Bands();
 
-// -- Rows. A position that is no row has an empty file and no icon.
+// -- Rows. A position that is no row has an empty file.
 bool Viewer_HasRow(const Program& p, int row);
 std::string Viewer_File(const Program& p, int row);
-PictureRef Viewer_Icon(const Program& p, int row);
 
 // -- Display
 // The row of the position stands in the view, and is loaded if it does not yet.

@@ -1,5 +1,6 @@
 #include "core/frm_main.h"
 #include "core/program.h"
+#include "thumbnails/thumb_cells.h"
 #include "toolkit/numbers.h"
 #include "toolkit/text.h"
 #include "viewer/frm_viewer.h"
@@ -19,16 +20,6 @@ double Slot_Of(const Program& p, int row)
     return Val(p.main.lsvRename.Tag(row));
 }
 
-// The row's thumbnail, or its icon.
-PictureRef Preview_Of(const Program& p, int row)
-{
-    const double slot = Slot_Of(p, row);
-    const auto& buffer = p.state.ThumbBuffer;
-    if (slot >= 1 && slot < static_cast<double>(buffer.size()))
-        return PictureRef::OfBitmap(buffer[static_cast<std::size_t>(slot)]);
-    return Viewer_Icon(p, row);
-}
-
 // At the lower edge of the view, near the bar that is being dragged.
 void Preview_Place(FrmViewer& v)
 {
@@ -44,21 +35,6 @@ bool Gif_IsLeftOut(const Program& p, int row)
     return p.state.Gif == 0 && UCase(Right(p.main.lsvRename.Text(row), endingLength)) == ".GIF";
 }
 
-Desktop::PictureBound Look_Bound(const Program& p)
-{
-    const ThumbLook& look = p.state.ThumbLook;
-    return {std::max<int>(1, look.Width), std::max<int>(1, look.Height)};
-}
-
-BitmapPtr Thumb_Draw(Program& p, PictureBox& surface, const Bitmap& picture)
-{
-    const PixelSize size = Thumb_Fit(p.state.ThumbLook, picture.Width(), picture.Height());
-    surface.Picture = PictureRef();
-    surface.Width = size.Width;
-    surface.Height = size.Height;
-    return p.desktop.PaintPicture(picture, size.Width, size.Height);
-}
-
 } // namespace
 
 void Viewer_Preview_Show(Program& p)
@@ -70,7 +46,7 @@ void Viewer_Preview_Show(Program& p)
     if (!Viewer_HasRow(p, row))
         return;
     v->stbMain.SetPanel(namePanel, std::string(p.main.lsvRename.Text(row)));
-    v->cmdThumb.Picture = Preview_Of(p, row);
+    v->cmdThumb.Picture = Row_Picture(p, row);
     Preview_Place(*v);
     v->cmdThumb.Visible = true;
     // Its second begins anew.
@@ -87,7 +63,8 @@ void Viewer_Thumb_Make(Program& p, int row)
     // Loaded anew. Where the picture is in sight already it keeps all its dots,
     // and this load can be a small one, which takes a fraction of the time.
     const bool isInSight = v->imgOriginal.Picture.Get().Shown == PictureRef::Kind::Bitmap;
-    const Desktop::PictureBound bound = isInSight ? Look_Bound(p) : Desktop::PictureBound();
+    const Desktop::PictureBound bound =
+        isInSight ? Look_Bound(p.state.ThumbLook) : Desktop::PictureBound();
     const BitmapPtr picture = p.desktop.LoadPicture(Viewer_File(p, row), bound);
     if (!picture)
         return;
