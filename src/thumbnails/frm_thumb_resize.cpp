@@ -59,8 +59,10 @@ void FrmThumbResize::ResizeSlot(std::size_t slot)
     if (!picture)
         return;
     imgOriginal.Picture = PictureRef::OfBitmap(picture);
-    if (BitmapPtr drawn = Thumb_Draw(p_, picThumb, *picture))
+    if (BitmapPtr drawn = Thumb_Draw(p_, picThumb, *picture)) {
+        picThumb.Picture = PictureRef::OfBitmap(drawn);
         picture = std::move(drawn);
+    }
 }
 
 } // namespace tavo

@@ -46,7 +46,9 @@ BitmapPtr Row_Draw(Program& p, int row)
     p.main.imgOriginal.Picture = PictureRef::OfBitmap(original);
     if (!original)
         return nullptr;
-    return Thumb_Draw(p, p.main.picThumb, *original);
+    BitmapPtr drawn = Thumb_Draw(p, p.main.picThumb, *original);
+    p.main.picThumb.Picture = PictureRef::OfBitmap(drawn);
+    return drawn;
 }
 
 bool Row_IsBarred(const Program& p, int row)
